@@ -1,0 +1,20 @@
+#pragma once
+
+#include "aec/AecApi.h"
+
+namespace aec
+{
+
+// Collects the project's change notifications between open and close and sends them as one.
+class AEC_INTERFACE IChangeNotificationBatch
+{
+public:
+    virtual ~IChangeNotificationBatch() = default;
+
+    // Starts collecting; batches nest.
+    virtual void open() = 0;
+    // Stops collecting; the outermost close sends what was collected.
+    virtual void close() = 0;
+};
+
+} // namespace aec
