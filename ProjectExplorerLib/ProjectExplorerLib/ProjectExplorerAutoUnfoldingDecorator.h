@@ -1,0 +1,48 @@
+#pragma once
+
+#include "ProjectExplorerLib/ProjectExplorerBaseDecorator.h"
+
+#include "aec/EntityId.h"
+#include "aec/Signals.h"
+
+#include <boost/signals2/connection.hpp>
+
+#include <memory>
+#include <unordered_set>
+#include <vector>
+
+namespace aec
+{
+class IProjectExplorerGroup;
+class IProjectExplorerSubgroup;
+} // namespace aec
+
+namespace project_explorer
+{
+
+// Unfolds what the user should see: when entities become selected, the subgroups that hold them
+// and their groups; when a rebuild makes new subgroups, or moves entities into kept ones, those
+// that hold selected entities. It never folds anything.
+class CProjectExplorerAutoUnfoldingDecorator final : public CProjectExplorerBaseDecorator
+{
+public:
+    explicit CProjectExplorerAutoUnfoldingDecorator(std::unique_ptr<aec::IProjectExplorer> explorer);
+    ~CProjectExplorerAutoUnfoldingDecorator() override;
+
+private:
+    struct WatchedGroup;
+    using SubgroupSet = std::unordered_set<const aec::IProjectExplorerSubgroup*>;
+
+    // Watches every current subgroup of the group exactly once; returns those not watched before.
+    SubgroupSet reconnectSubgroups(WatchedGroup& watched);
+    void onSelectionChanged(const aec::EntityIdSet& added);
+    void onSubgroupsChanged(WatchedGroup& watched);
+    void onEntitiesChanged(WatchedGroup& watched, aec::IProjectExplorerSubgroup& subgroup,
+                           const aec::EntityChangeset& changeset);
+    static void unfold(aec::IProjectExplorerGroup& group, aec::IProjectExplorerSubgroup& subgroup);
+
+    boost::signals2::scoped_connection selectionConnection_;
+    std::vector<std::unique_ptr<WatchedGroup>> watchedGroups_;
+};
+
+} // namespace project_explorer

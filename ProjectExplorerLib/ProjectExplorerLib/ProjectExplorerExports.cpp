@@ -1,0 +1,49 @@
+#include "ProjectExplorerLib/ProjectExplorerExports.h"
+
+#include "ProjectExplorerLib/ProjectExplorerEntityProvider.h"
+#include "ProjectExplorerLib/ProjectExplorerFactory.h"
+#include "ProjectExplorerLib/ProjectExplorerGroupMaker.h"
+#include "ProjectExplorerLib/ProjectExplorerGroupingModelFactory.h"
+#include "ProjectExplorerLib/ProjectExplorerStateMonitor.h"
+
+#include "Common/UuidProvider.h"
+
+namespace project_explorer
+{
+
+std::unique_ptr<aec::IProjectExplorerGroupingModelFactory> createGroupingModelFactory()
+{
+    return std::make_unique<CProjectExplorerGroupingModelFactory>();
+}
+
+std::unique_ptr<aec::IProjectExplorerGroupMaker> createGroupMaker(const aec::IAttributeValueFormatter& formatter,
+                                                                  const aec::IProjectSessionManager& sessionManager)
+{
+    return std::make_unique<CProjectExplorerGroupMaker>(formatter, sessionManager);
+}
+
+std::unique_ptr<aec::IProjectExplorerFactory>
+createProjectExplorerFactory(const aec::IProjectExplorerGroupingModelFactory& groupingModelFactory,
+                             const aec::IProjectExplorerGroupMaker& groupMaker,
+                             const aec::IProjectExplorerEntityProvider& entityProvider)
+{
+    return std::make_unique<CProjectExplorerFactory>(groupingModelFactory, groupMaker, entityProvider);
+}
+
+std::unique_ptr<aec::IProjectExplorerStateMonitor> createProjectExplorerStateMonitor(const aec::IProjectExplorer& explorer)
+{
+    return std::make_unique<CProjectExplorerStateMonitor>(explorer);
+}
+
+std::unique_ptr<aec::IProjectExplorerEntityProvider>
+createProjectExplorerEntityProvider(const aec::IProjectSessionManager& sessionManager)
+{
+    return std::make_unique<CProjectExplorerEntityProvider>(sessionManager);
+}
+
+void setUuidProvider(std::shared_ptr<common::IUuidProvider> provider)
+{
+    common::installUuidProvider(std::move(provider));
+}
+
+} // namespace project_explorer

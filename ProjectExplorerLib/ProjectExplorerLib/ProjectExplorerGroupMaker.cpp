@@ -1,0 +1,96 @@
+#include "ProjectExplorerLib/ProjectExplorerGroupMaker.h"
+
+#include "aec/AttributeValueFormatter.h"
+#include "aec/Entity.h"
+#include "aec/Project.h"
+#include "aec/ProjectExplorerGroupingModel.h"
+#include "aec/ProjectSessionManager.h"
+
+#include "Common/LogicalCompare.h"
+
+#include <map>
+#include <string_view>
+#include <unordered_map>
+
+namespace project_explorer
+{
+
+namespace
+{
+
+// Subgroup names in natural order, ascending or descending.
+class CLogicalNameOrder
+{
+public:
+    explicit CLogicalNameOrder(bool ascending) : ascending_(ascending) {}
+
+    bool operator()(std::wstring_view left, std::wstring_view right) const noexcept
+    {
+        return ascending_ ? common::compareLogical(left, right) < 0 : common::compareLogical(right, left) < 0;
+    }
+
+private:
+    bool ascending_;
+};
+
+using ExactBuckets = std::unordered_map<std::wstring, aec::EntityIdSet>;
+
+} // namespace
+
+CProjectExplorerGroupMaker::CProjectExplorerGroupMaker(const aec::IAttributeValueFormatter& formatter,
+                                                       const aec::IProjectSessionManager& sessionManager)
+    : formatter_(formatter), sessionManager_(sessionManager)
+{
+}
+
+CProjectExplorerGroupMaker::~CProjectExplorerGroupMaker() = default;
+
+std::vector<aec::SubgroupDescriptor> CProjectExplorerGroupMaker::makeSubgroups(const aec::EntityIdList& entityIds,
+                                                                               const aec::PropertyAssignmentKey& key,
+                                                                               int sortOrder) const
+{
+    if (entityIds.empty())
+        return {};
+    if (key == aec::PropertyAssignmentKey::noGrouping())
+        return {{L"", aec::EntityIdSet(entityIds.begin(), entityIds.end())}};
+
+    const aec::IProject& project = sessionManager_.getCurrentProject();
+
+    // The logical comparison is far dearer than hashing, so entities are first bucketed by their
+    // exact name (one formatter call and one hash look-up each) and only the distinct names are
+    // ordered. The buckets are remembered in order of first occurrence, so that of names the
+    // logical comparison finds equal the one of the first entity in input order names the merge.
+    ExactBuckets buckets;
+    std::vector<ExactBuckets::value_type*> firstOccurrence;
+    for (const aec::EntityId& id : entityIds)
+    {
+        // The provider listed the identifiers from this project a moment ago; an entity that is
+        // gone by now has no value to be grouped by and simply does not appear.
+        const aec::IEntity* entity = project.findEntity(id);
+        if (entity == nullptr)
+            continue;
+
+        auto [bucket, made] = buckets.try_emplace(formatter_.format(entity->getPropertyValue(key)));
+        if (made)
+            firstOccurrence.push_back(&*bucket);
+        bucket->second.insert(id);
+    }
+
+    // The unordered map's nodes do not move, so its names can key the ordered map as views.
+    std::map<std::wstring_view, aec::EntityIdSet*, CLogicalNameOrder> ordered(
+        CLogicalNameOrder(sortOrder == aec::IProjectExplorerGroupingModel::ascending));
+    for (ExactBuckets::value_type* bucket : firstOccurrence)
+    {
+        auto [merged, made] = ordered.try_emplace(bucket->first, &bucket->second);
+        if (!made)
+            merged->second->merge(bucket->second);
+    }
+
+    std::vector<aec::SubgroupDescriptor> descriptors;
+    descriptors.reserve(ordered.size());
+    for (const auto& [name, entities] : ordered)
+        descriptors.push_back({std::wstring(name), std::move(*entities)});
+    return descriptors;
+}
+
+} // namespace project_explorer

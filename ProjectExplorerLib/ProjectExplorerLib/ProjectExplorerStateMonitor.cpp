@@ -1,0 +1,106 @@
+#include "ProjectExplorerLib/ProjectExplorerStateMonitor.h"
+
+#include "aec/ProjectExplorer.h"
+#include "aec/ProjectExplorerGroup.h"
+#include "aec/ProjectExplorerGroupingModel.h"
+#include "aec/ProjectExplorerSubgroup.h"
+
+#include "Common/Check.h"
+#include "Common/NameBasedUuid.h"
+
+#include <stdexcept>
+
+namespace project_explorer
+{
+
+CProjectExplorerStateMonitor::CProjectExplorerStateMonitor(const aec::IProjectExplorer& explorer) : explorer_(explorer)
+{
+    for (const aec::IProjectExplorerGroup& group : explorer_.getGroups())
+        addGroupState(group);
+}
+
+CProjectExplorerStateMonitor::~CProjectExplorerStateMonitor()
+{
+    subgroupConnections_.clear();
+    connections_.clear();
+}
+
+const aec::ProjectExplorerState& CProjectExplorerStateMonitor::getGroupStates() const
+{
+    return groupStates_;
+}
+
+aec::VoidSignal& CProjectExplorerStateMonitor::stateChangedSignal() const
+{
+    return stateChanged_;
+}
+
+void CProjectExplorerStateMonitor::addGroupState(const aec::IProjectExplorerGroup& group)
+{
+    const common::UUID groupId = group.getId();
+    COMMON_INVARIANT(!groupStates_.contains(groupId));
+    aec::ProjectExplorerGroupState& state = groupStates_[groupId];
+
+    recordGrouping(group);
+    connections_.emplace_back(group.getGroupingModel().changedSignal().connect([this, &group] {
+        recordGrouping(group);
+        stateChanged_();
+    }));
+
+    connections_.emplace_back(group.subgroupsChangedSignal().connect([this, &group] {
+        refreshSubgroupStates(group);
+        stateChanged_();
+    }));
+    refreshSubgroupStates(group);
+
+    state.expanded = group.isExpanded();
+    connections_.emplace_back(group.expandedChangedSignal().connect([this, &group, groupId] {
+        groupStates_.at(groupId).expanded = group.isExpanded();
+        stateChanged_();
+    }));
+}
+
+void CProjectExplorerStateMonitor::addSubgroupState(const aec::IProjectExplorerGroup& group,
+                                                    const aec::IProjectExplorerSubgroup& subgroup)
+{
+    const common::UUID groupId = group.getId();
+    const auto groupState = groupStates_.find(groupId);
+    if (groupState == groupStates_.end())
+        throw std::out_of_range("invalid map<K, T> key");
+
+    const common::UUID subgroupId = common::makeNameBasedUuid(groupId, subgroup.getName());
+    std::map<common::UUID, bool>& subgroupStates = groupState->second.subgroupExpanded;
+    COMMON_INVARIANT(!subgroupStates.contains(subgroupId));
+    subgroupStates.emplace(subgroupId, subgroup.isExpanded());
+
+    Connections& connections = subgroupConnections_[groupId];
+    connections.emplace_back(subgroup.expandedChangedSignal().connect([this, &subgroup, groupId, subgroupId] {
+        groupStates_.at(groupId).subgroupExpanded.at(subgroupId) = subgroup.isExpanded();
+        stateChanged_();
+    }));
+    // A change of a subgroup's entities is no part of the record; the connection only keeps the
+    // subgroup's signals watched alike.
+    connections.emplace_back(subgroup.entitiesChangedSignal().connect([](const aec::EntityChangeset&) {}));
+}
+
+void CProjectExplorerStateMonitor::refreshSubgroupStates(const aec::IProjectExplorerGroup& group)
+{
+    const common::UUID groupId = group.getId();
+    groupStates_.at(groupId).subgroupExpanded.clear();
+    subgroupConnections_[groupId].clear();
+    for (const aec::IProjectExplorerSubgroup& subgroup : group.getSubgroups())
+        addSubgroupState(group, subgroup);
+}
+
+void CProjectExplorerStateMonitor::recordGrouping(const aec::IProjectExplorerGroup& group)
+{
+    const aec::IProjectExplorerGroupingModel& model = group.getGroupingModel();
+    const aec::PropertyAssignmentKey key = model.getGroupingKey();
+
+    aec::ProjectExplorerGroupState& state = groupStates_.at(group.getId());
+    state.sortOrder = static_cast<std::uint32_t>(model.getSortOrder());
+    state.groupingPath = key.getPath();
+    state.groupingProperty = key.getProperty();
+}
+
+} // namespace project_explorer
