@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Common/CommonApi.h"
-#include "Common/RandomDeviceStub.h"
+#include "Common/RandomDevice.h"
 
 #include <compare>
 #include <cstddef>
