@@ -126,7 +126,7 @@ std::optional<ProjectExplorerState> explorerStateFromJson(const json& stored, st
                                            reason.what()));
         }
     }
-    if (state.empty() && !groups->empty())
+    if (state.empty() && position > 0)
         return std::nullopt;
     return state;
 }
