@@ -1,5 +1,5 @@
-#include "AecModel/Project.h"
 #include "AecModel/ProjectFile.h"
+#include "AecModel/Project.h"
 #include "AecModel/SampleProject.h"
 
 #include "aec/ProjectExplorerGroupInfo.h"

@@ -31,8 +31,9 @@ ProjectExplorerState sampleState()
     sheets.groupingPath = PropertyAssignmentKey::topic().getPath();
     sheets.groupingProperty = PropertyAssignmentKey::topic().getProperty();
     sheets.expanded = true;
-    sheets.subgroupExpanded = {{common::UUID::parse(std::string_view("3e6c5a8f-1b7d-5c2e-9f3a-4d8b6e1c7a20")), true},
-                               {common::UUID::parse(std::string_view("a1b2c3d4-e5f6-5a7b-8c9d-0e1f2a3b4c5d")), false}};
+    sheets.subgroupExpanded = {
+        {common::UUID::parse(std::string_view("3e6c5a8f-1b7d-5c2e-9f3a-4d8b6e1c7a20")), true},
+        {common::UUID::parse(std::string_view("a1b2c3d4-e5f6-5a7b-8c9d-0e1f2a3b4c5d")), false}};
     ProjectExplorerGroupState topics;
     topics.groupingProperty = PropertyAssignmentKey::noGrouping().getProperty();
     return {{group(EntityCollection::Sheets).id, sheets}, {group(EntityCollection::Topics).id, topics}};
@@ -108,8 +109,9 @@ TEST(ProjectPreferencesTest, BrokenEntriesAreDroppedOneByOne)
     negativeSortOrder["sortOrder"] = -1;
 
     json stored = good;
-    stored["projectExplorer"]["groups"] = json::array(
-        {wrongType, unknownGroup, badUuid, topicOnImages, negativeSortOrder, storedEntry(good, EntityCollection::Topics)});
+    stored["projectExplorer"]["groups"] =
+        json::array({wrongType, unknownGroup, badUuid, topicOnImages, negativeSortOrder,
+                     storedEntry(good, EntityCollection::Topics)});
     CProjectPreferences read;
     read.fromJson(stored);
 

@@ -1,6 +1,6 @@
+#include "AecModel/SampleProject.h"
 #include "AecModel/EntityCollectionInfo.h"
 #include "AecModel/Project.h"
-#include "AecModel/SampleProject.h"
 
 #include "Common/SequentialUuidProvider.h"
 #include "Common/UuidProvider.h"
@@ -59,7 +59,8 @@ TEST(SampleProjectTest, HasTheMixTheExplorerNeedsToShow)
 
 TEST(SampleProjectTest, InstalledUuidProviderMakesItReproducible)
 {
-    const auto buildWithSeed = [](std::uint64_t seed) {
+    const auto buildWithSeed = [](std::uint64_t seed)
+    {
         common::installUuidProvider(std::make_shared<common::CSequentialUuidProvider>(seed));
         const std::string dump = buildSampleProject()->canonicalDump();
         common::installUuidProvider(nullptr);

@@ -32,7 +32,8 @@ TEST_F(ValueFormattingTest, TopicValuesReadAsTheTopicsName)
     const TopicId topic = project.addTopic(L"Level 10");
     const EntityId sheet = project.addEntity(EntityCollection::Sheets, L"Sheet A-101", topic);
     const EntityId bare = project.addEntity(EntityCollection::Sheets, L"Sheet A-20");
-    const auto topicText = [&](const EntityId& id) {
+    const auto topicText = [&](const EntityId& id)
+    {
         return formatter.format(project.findEntity(id)->getPropertyValue(PropertyAssignmentKey::topic()));
     };
 
@@ -41,7 +42,8 @@ TEST_F(ValueFormattingTest, TopicValuesReadAsTheTopicsName)
     project.renameEntity(EntityId(topic.uuid()), L"level 10");
     EXPECT_EQ(topicText(sheet), L"level 10") << "the name is read when formatting, not kept";
 
-    const common::UUID stranger = common::UUID::parse(std::string_view("0c7e0a52-7d2b-4b8b-a7a8-3a6f4f3c2d10"));
+    const common::UUID stranger =
+        common::UUID::parse(std::string_view("0c7e0a52-7d2b-4b8b-a7a8-3a6f4f3c2d10"));
     EXPECT_EQ(formatter.format(stranger), L"0c7e0a52-7d2b-4b8b-a7a8-3a6f4f3c2d10");
 }
 
@@ -76,7 +78,8 @@ TEST_F(ValueFormattingTest, WithoutAProjectTheSessionRefuses)
 TEST_F(ValueFormattingTest, CatalogOffersTheTopicOnceTheProjectHasOne)
 {
     const CPropertyCatalog catalog;
-    const PropertyAssignmentKey unknown(common::UUID::parse(std::string_view("1a2b3c4d-0000-4000-8000-000000000001")));
+    const PropertyAssignmentKey unknown(
+        common::UUID::parse(std::string_view("1a2b3c4d-0000-4000-8000-000000000001")));
     EXPECT_FALSE(catalog.isAvailable(project, PropertyAssignmentKey::topic()));
     EXPECT_TRUE(catalog.isAvailable(project, PropertyAssignmentKey::noGrouping()));
 
