@@ -4,10 +4,10 @@ set(PROJECT_WARNINGS
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
     -Wcast-align -Wnull-dereference -Wimplicit-fallthrough -Werror)
 
-# Under AddressSanitizer GCC's -Wmaybe-uninitialized misfires on every Boost.Signals2 connect (the
-# disengaged boost::optional<int> of an ungrouped slot's group key, compared inside std::less);
-# without the sanitizer the warning stays on.
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_FLAGS MATCHES "-fsanitize=address")
+# With AddressSanitizer, GCC reports every Boost.Signals2 connect as reading an uninitialized
+# optional group key; the key is never read unset, and the report would fail every file that
+# connects a signal.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_FLAGS MATCHES "-fsanitize=[^ ]*address")
     list(APPEND PROJECT_WARNINGS -Wno-maybe-uninitialized)
 endif()
 
