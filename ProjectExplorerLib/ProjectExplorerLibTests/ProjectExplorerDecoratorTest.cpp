@@ -1,0 +1,129 @@
+#include "ExplorerTest.h"
+#include "ViolationSite.h"
+
+#include "ProjectExplorerLib/ProjectExplorer.h"
+#include "ProjectExplorerLib/ProjectExplorerAutoUnfoldingDecorator.h"
+#include "ProjectExplorerLib/ProjectExplorerEntitySelection.h"
+#include "ProjectExplorerLib/ProjectExplorerPreferencesUpdatingDecorator.h"
+
+#include "aec/ProjectPreferences.h"
+
+#include "Common/AssertionViolation.h"
+
+namespace project_explorer::test
+{
+namespace
+{
+
+using aec::EntityCollection;
+
+// Keeps every state it is given: how often the preferences are written shows nowhere else.
+class CRecordingPreferences : public aec::IProjectPreferences
+{
+public:
+    std::vector<aec::ProjectExplorerState> written;
+    std::optional<aec::ProjectExplorerState> getProjectExplorerState() const override { return std::nullopt; }
+    void setProjectExplorerState(const aec::ProjectExplorerState& state) override { written.push_back(state); }
+};
+
+// Sheets under the topics North and South and an ungrouped table, behind the auto-unfolding decorator.
+class ProjectExplorerDecoratorTest : public ExplorerTest
+{
+protected:
+    ProjectExplorerDecoratorTest()
+    {
+        std::vector<std::unique_ptr<aec::IProjectExplorerGroup>> groups;
+        groups.push_back(makeGroup(L"Sheets"));
+        groups.push_back(makeGroup(L"Tables"));
+        auto plain = std::make_unique<CProjectExplorer>(std::move(groups), std::make_unique<CProjectExplorerEntitySelection>());
+        inner = plain.get();
+        unfolding = std::make_unique<CProjectExplorerAutoUnfoldingDecorator>(std::move(plain));
+    }
+
+    aec::IProjectExplorerGroup& sheets() { return named(unfolding->getGroups(), L"Sheets"); }
+    aec::IProjectExplorerSubgroup& sheetsIn(std::wstring_view topic) { return named(sheets().getSubgroups(), topic); }
+    aec::IProjectExplorerGroup& tables() { return named(unfolding->getGroups(), L"Tables"); }
+    void select(const aec::EntityIdSet& entities) { unfolding->getEntitySelection().setSelection(entities); }
+
+    aec::TopicId north = project.addTopic(L"North");
+    aec::TopicId south = project.addTopic(L"South");
+    aec::EntityId northSheet = project.addEntity(EntityCollection::Sheets, L"N1", north);
+    aec::EntityId southSheet = project.addEntity(EntityCollection::Sheets, L"S1", south);
+    aec::EntityId table = project.addEntity(EntityCollection::Tables, L"Door schedule");
+    const aec::IProjectExplorer* inner = nullptr;
+    std::unique_ptr<aec::IProjectExplorer> unfolding;
+};
+
+TEST_F(ProjectExplorerDecoratorTest, DecoratorShowsTheSameGroupsAndSelectionAndNeedsAnExplorer)
+{
+    EXPECT_EQ(addressesOf(unfolding->getGroups()), addressesOf(inner->getGroups()));
+    EXPECT_EQ(addressesOf(std::as_const(*unfolding).getGroups()), addressesOf(inner->getGroups()));
+    EXPECT_EQ(&unfolding->getEntitySelection(), &inner->getEntitySelection());
+    EXPECT_EQ(&std::as_const(*unfolding).getEntitySelection(), &inner->getEntitySelection());
+
+    const std::string site = violationSite<common::EPreconditionViolation>([] { CProjectExplorerAutoUnfoldingDecorator(nullptr); });
+    EXPECT_EQ(siteFile(site), "ProjectExplorerLib/ProjectExplorerLib/ProjectExplorerBaseDecorator.cpp");
+}
+
+TEST_F(ProjectExplorerDecoratorTest, NewlySelectedEntitiesUnfoldTheirHoldersOnly)
+{
+    select({southSheet});
+    EXPECT_TRUE(sheets().isExpanded());
+    EXPECT_TRUE(sheetsIn(L"South").isExpanded());
+    EXPECT_FALSE(sheetsIn(L"North").isExpanded());
+    EXPECT_FALSE(tables().isExpanded());
+
+    sheetsIn(L"South").setExpanded(false);
+    select({southSheet, table});
+    EXPECT_FALSE(sheetsIn(L"South").isExpanded());
+    EXPECT_TRUE(tables().isExpanded());
+
+    // An entity moved between kept subgroups is looked for where it is now.
+    project.addEntity(EntityCollection::Sheets, L"N2", north);
+    project.setEntityTopic(northSheet, south);
+    sheets().rebuild();
+    select({northSheet});
+    EXPECT_TRUE(sheetsIn(L"South").isExpanded());
+    EXPECT_FALSE(sheetsIn(L"North").isExpanded());
+}
+
+TEST_F(ProjectExplorerDecoratorTest, RebuiltSubgroupsThatReceiveSelectedEntitiesUnfold)
+{
+    select({southSheet});
+    sheets().setExpanded(false);
+    sheetsIn(L"South").setExpanded(false);
+    project.addEntity(EntityCollection::Sheets, L"E1", project.addTopic(L"East"));
+    sheets().rebuild();
+    EXPECT_FALSE(sheetsIn(L"East").isExpanded());
+    EXPECT_FALSE(sheetsIn(L"South").isExpanded()) << "what the user folded stays folded";
+
+    sheets().getGroupingModel().setGroupingKey(aec::PropertyAssignmentKey::noGrouping());
+    EXPECT_TRUE(sheetsIn(L"").isExpanded());
+    EXPECT_TRUE(sheets().isExpanded());
+
+    sheets().getGroupingModel().setGroupingKey(aec::PropertyAssignmentKey::topic());
+    sheetsIn(L"South").setExpanded(false);
+    project.setEntityTopic(southSheet, north); // into the new, folded "North"
+    sheets().rebuild();
+    EXPECT_TRUE(sheetsIn(L"North").isExpanded());
+}
+
+TEST_F(ProjectExplorerDecoratorTest, PreferencesReceiveTheStateOncePerChange)
+{
+    CRecordingPreferences preferences;
+    CProjectExplorerPreferencesUpdatingDecorator updating(std::move(unfolding), preferences);
+    aec::IProjectExplorerGroup& group = named(updating.getGroups(), L"Sheets");
+
+    group.setExpanded(false);
+    group.setExpanded(true);
+    named(group.getSubgroups(), L"North").setExpanded(true);
+    group.setExpanded(false);
+
+    ASSERT_EQ(preferences.written.size(), 3u);
+    EXPECT_TRUE(preferences.written[0].at(group.getId()).expanded);
+    EXPECT_FALSE(preferences.written[2].at(group.getId()).expanded);
+    EXPECT_EQ(preferences.written[2].size(), 2u);
+}
+
+} // namespace
+} // namespace project_explorer::test
