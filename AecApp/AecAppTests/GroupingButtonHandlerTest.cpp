@@ -1,0 +1,105 @@
+#include "AecApp/GroupingButtonHandler.h"
+
+#include "Common/AssertionViolation.h"
+#include "RecordingGui.h"
+#include "TableTranslation.h"
+#include "TestGroupingModel.h"
+#include "ViolationMessage.h"
+
+#include <memory>
+
+namespace aecapp_tests
+{
+namespace
+{
+
+constexpr std::uint32_t panel = 40;
+constexpr std::uint32_t criterionButton = 41;
+constexpr std::uint32_t sortButton = 42;
+const std::string handlerFile = "AecApp/AecApp/GroupingButtonHandler.cpp";
+
+using Items = std::vector<RecordingGui::ButtonItem>;
+
+class GroupingButtonHandlerTest : public ::testing::Test
+{
+protected:
+    GroupingButtonHandlerTest() { model.offer({{L"topic-key", L"Topic"}}); }
+
+    std::unique_ptr<aec::CGroupingButtonHandler> makeHandler(aec::IGui* mainGui)
+    {
+        return std::make_unique<aec::CGroupingButtonHandler>(panel, criterionButton, sortButton, mainGui,
+                                                             translation, model);
+    }
+    void choose(std::uint32_t button, const std::wstring& value)
+    {
+        gui.buttonCallbacks.at({panel, button})(value);
+    }
+
+    RecordingGui gui;
+    TableTranslation translation{{{1159, L"No grouping"}}};
+    TestGroupingModel model;
+};
+
+TEST_F(GroupingButtonHandlerTest, FillsTheCriterionButtonNowAndOnEveryModelChange)
+{
+    const auto handler = makeHandler(&gui);
+    EXPECT_EQ(gui.resets, (std::vector<RecordingGui::Element>{
+                              {panel, criterionButton}, {panel, sortButton}, {panel, 2}}));
+    EXPECT_EQ((gui.buttonItems[{panel, criterionButton}]),
+              (Items{{L"0", L"No grouping", true}, {L"topic-key", L"Topic", true}}));
+
+    model.offer({{L"a", L"Level"}, {L"b", L"Material"}});
+    EXPECT_EQ(gui.resets.size(), 6u);
+    EXPECT_EQ((gui.buttonItems[{panel, criterionButton}]),
+              (Items{{L"0", L"No grouping", true}, {L"a", L"Level", true}, {L"b", L"Material", true}}));
+}
+
+TEST_F(GroupingButtonHandlerTest, CriterionZeroClearsTheGroupingAndAnyOtherTextIsACriterion)
+{
+    const auto handler = makeHandler(&gui);
+    choose(criterionButton, L"topic-key");
+    EXPECT_EQ(model.getGroupingKeyText(), L"topic-key");
+    EXPECT_EQ((gui.buttonValues[{panel, criterionButton}]), L"topic-key");
+
+    choose(criterionButton, L"0");
+    EXPECT_EQ(model.getGroupingKeyText(), std::nullopt);
+    EXPECT_EQ((gui.buttonValues[{panel, criterionButton}]), L"0");
+
+    choose(criterionButton, L"");
+    EXPECT_EQ(model.getGroupingKeyText(), std::optional<std::wstring>(L""));
+    EXPECT_EQ((gui.buttonValues[{panel, criterionButton}]), L"");
+}
+
+TEST_F(GroupingButtonHandlerTest, SortOrderTakesOnlyOneOrTwo)
+{
+    const auto handler = makeHandler(&gui);
+    choose(sortButton, L"2");
+    EXPECT_EQ(model.getSortOrder(), 2);
+    EXPECT_EQ((gui.buttonValues[{panel, sortButton}]), L"2");
+    choose(sortButton, L"1");
+    EXPECT_EQ(model.getSortOrder(), 1);
+    EXPECT_EQ((gui.buttonValues[{panel, sortButton}]), L"1");
+
+    choose(sortButton, L"2");
+    const auto rejected = violationMessage<common::EPreconditionViolation>([&] { choose(sortButton, L"3"); });
+    EXPECT_TRUE(isSiteInFile(rejected, handlerFile)) << rejected;
+    EXPECT_EQ(model.getSortOrder(), 2);
+    EXPECT_EQ((gui.buttonValues[{panel, sortButton}]), L"2");
+
+    const auto nullGui = violationMessage<common::EPreconditionViolation>([&] { makeHandler(nullptr); });
+    EXPECT_TRUE(isSiteInFile(nullGui, handlerFile)) << nullGui;
+    EXPECT_NE(rejected, nullGui);
+}
+
+TEST_F(GroupingButtonHandlerTest, LetsGoOfTheButtonsAndTheModelWhenDestroyedOrNotBuilt)
+{
+    EXPECT_THROW(makeHandler(nullptr), common::EPreconditionViolation);
+    EXPECT_TRUE(model.changedSignal().empty());
+
+    makeHandler(&gui).reset();
+    EXPECT_TRUE(gui.buttonCallbacks.empty());
+    EXPECT_TRUE(model.changedSignal().empty());
+}
+
+} // namespace
+} // namespace aecapp_tests
