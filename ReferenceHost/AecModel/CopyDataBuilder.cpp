@@ -6,6 +6,8 @@
 
 #include "Common/Check.h"
 
+#include <unordered_set>
+
 namespace aec::model
 {
 
@@ -35,13 +37,17 @@ std::unique_ptr<IProjectEntityCopyData> CCopyDataBuilder::build(const CopyCollec
     auto data = std::make_unique<CCopiedEntities>();
     for (const CopyCollectionInfo& info : copyCollections())
     {
+        const EntityIdList& requested = collections[copyCollectionIndex(info.copyCollection)];
+        if (requested.empty())
+            continue;
+        // The requests come in identifier order (the entity source's set); copies keep the order of
+        // the collection instead, which is the order the user sees and gets back on paste.
+        const std::unordered_set<EntityId> wanted(requested.begin(), requested.end());
         std::vector<CopiedEntity>& copies = data->collection(info.copyCollection);
-        for (const EntityId& id : collections[copyCollectionIndex(info.copyCollection)])
-        {
-            const CEntity* const entity = project_.findEntity(id);
-            COMMON_PRECONDITION(entity != nullptr && entity->getCollection() == info.collection);
-            copies.push_back(copyOf(project_, *entity));
-        }
+        for (const EntityId& id : project_.getEntities(info.collection))
+            if (wanted.contains(id))
+                copies.push_back(copyOf(project_, *project_.findEntity(id)));
+        COMMON_PRECONDITION(copies.size() == wanted.size());
     }
     return data;
 }
