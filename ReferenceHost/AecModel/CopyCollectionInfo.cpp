@@ -33,8 +33,9 @@ const CopyCollectionInfo& copyCollectionInfo(CopyCollection copyCollection)
 const CopyCollectionInfo* findCopyCollectionInfo(EntityCollection collection)
 {
     const CopyCollectionInfos& infos = copyCollections();
-    const auto found = std::find_if(infos.begin(), infos.end(), [collection](const CopyCollectionInfo& info)
-                                    { return info.collection == collection; });
+    const auto found =
+        std::find_if(infos.begin(), infos.end(),
+                     [collection](const CopyCollectionInfo& info) { return info.collection == collection; });
     return found == infos.end() ? nullptr : &*found;
 }
 

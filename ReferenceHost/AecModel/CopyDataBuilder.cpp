@@ -16,7 +16,8 @@ namespace
 
 CopiedEntity copyOf(const CProject& project, const CEntity& entity)
 {
-    CopiedEntity copy{entity.getId(), entity.getType(), entity.getName(), std::nullopt, entity.getProperties()};
+    CopiedEntity copy{entity.getId(), entity.getType(), entity.getName(), std::nullopt,
+                      entity.getProperties()};
     if (const std::optional<TopicId> topic = entity.getTopic())
     {
         const CEntity* const topicEntity = project.findEntity(EntityId(topic->uuid()));

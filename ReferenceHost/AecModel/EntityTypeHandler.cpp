@@ -26,8 +26,16 @@ namespace
 std::wstring_view entityNoun(EntityCollection collection)
 {
     static constexpr std::array<std::wstring_view, entityCollectionCount> nouns{
-        L"Sheet",        L"Table",   L"Assembly",     L"Material", L"Door style",
-        L"Window style", L"Reinforcement style", L"Topic", L"Linked model", L"Image",
+        L"Sheet",
+        L"Table",
+        L"Assembly",
+        L"Material",
+        L"Door style",
+        L"Window style",
+        L"Reinforcement style",
+        L"Topic",
+        L"Linked model",
+        L"Image",
     };
     return nouns[collectionIndex(collection)];
 }

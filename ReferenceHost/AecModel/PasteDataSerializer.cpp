@@ -5,6 +5,7 @@
 #include "AecModel/EntityCollectionInfo.h"
 #include "AecModel/JsonFieldError.h"
 #include "AecModel/JsonFields.h"
+#include "AecModel/PropertyMapJson.h"
 #include "AecModel/WideText.h"
 
 #include "aec/Cast.h"
@@ -28,48 +29,32 @@ namespace fields = json_fields;
 
 json entityToJson(const CopiedEntity& entity)
 {
-    json object{{"id", entity.id.uuid().toString()},
-                {"type", entity.type.toString()},
-                {"name", toUtf8(entity.name)}};
+    json object{
+        {"id", entity.id.uuid().toString()}, {"type", entity.type.toString()}, {"name", toUtf8(entity.name)}};
     if (entity.topic)
         object["topic"] = {{"id", entity.topic->id.uuid().toString()}, {"name", toUtf8(entity.topic->name)}};
-    if (!entity.properties.empty())
-    {
-        json properties = json::object();
-        for (const auto& [name, value] : entity.properties)
-            properties[name] = toUtf8(value);
-        object["properties"] = std::move(properties);
-    }
+    writeProperties(object, entity.properties);
     return object;
-}
-
-std::wstring readText(const json& value, const char* name)
-{
-    return fromUtf8(fields::text(value, name));
 }
 
 CopiedEntity readEntity(const json& object, const EntityCollectionInfo& info)
 {
     CopiedEntity entity{EntityId(fields::uuid(fields::member(object, "id"), "id")),
                         EntityTypeId(fields::uuid(fields::member(object, "type"), "type")),
-                        readText(fields::member(object, "name"), "name"), std::nullopt, {}};
+                        fields::wideText(fields::member(object, "name"), "name"),
+                        std::nullopt,
+                        {}};
     if (!(entity.type == info.type))
-        throw EJsonFieldError(fmt::format("\"type\" is {}, not the type of the collection's entities",
-                                          entity.type.toString()));
+        throw EJsonFieldError(
+            fmt::format("\"type\" is {}, not the type of the collection's entities", entity.type.toString()));
     if (const json* const topic = fields::optionalMember(object, "topic"))
     {
         if (!info.bearsTopic)
             throw EJsonFieldError("it has a \"topic\", which entities of its collection cannot have");
         entity.topic = CopiedEntity::Topic{TopicId(fields::uuid(fields::member(*topic, "id"), "id")),
-                                           readText(fields::member(*topic, "name"), "name")};
+                                           fields::wideText(fields::member(*topic, "name"), "name")};
     }
-    if (const json* const properties = fields::optionalMember(object, "properties"))
-    {
-        if (!properties->is_object())
-            throw EJsonFieldError("\"properties\" is not a JSON object");
-        for (const auto& [name, value] : properties->items())
-            entity.properties.emplace(name, readText(value, "properties"));
-    }
+    entity.properties = readProperties(object);
     return entity;
 }
 

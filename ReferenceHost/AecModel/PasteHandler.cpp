@@ -65,9 +65,9 @@ EntityIdList pasteCollection(CProject& project, const CopyCollectionInfo& info,
     for (const CopiedEntity& copy : copies)
     {
         COMMON_PRECONDITION(copy.type == collectionInfo(info.collection).type);
-        const EntityId id =
-            project.addEntity(info.collection, names.takeUnique(copy.name),
-                              bearsTopic ? topics.map(copy.topic) : std::nullopt, EntityId(common::UUID::generate()));
+        const EntityId id = project.addEntity(info.collection, names.takeUnique(copy.name),
+                                              bearsTopic ? topics.map(copy.topic) : std::nullopt,
+                                              EntityId(common::UUID::generate()));
         for (const auto& [name, value] : copy.properties)
             project.setEntityProperty(id, name, value);
         if (info.collection == EntityCollection::Topics)

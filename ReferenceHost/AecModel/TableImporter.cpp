@@ -1,6 +1,7 @@
 #include "AecModel/TableImporter.h"
 
 #include "AecModel/CsvReader.h"
+#include "AecModel/InputFile.h"
 #include "AecModel/Project.h"
 #include "AecModel/UniqueNameGenerator.h"
 #include "AecModel/WideText.h"
@@ -26,14 +27,7 @@ namespace
 
 std::string readFile(const std::filesystem::path& file)
 {
-    std::error_code error;
-    if (!std::filesystem::exists(file, error))
-        throw common::EException("the file does not exist");
-    if (!std::filesystem::is_regular_file(file, error))
-        throw common::EException("it is not a regular file");
-    std::ifstream stream(file, std::ios::binary);
-    if (!stream)
-        throw common::EException("the file cannot be opened for reading");
+    std::ifstream stream = openInputFile(file);
     std::string text((std::istreambuf_iterator<char>(stream)), std::istreambuf_iterator<char>());
     if (stream.bad())
         throw common::EException("the file cannot be read to its end");
@@ -83,9 +77,10 @@ EntityId CTableImporter::importTable(IProject& project, const std::filesystem::p
         columns = std::max(columns, record.size());
     const std::size_t rows = records.size();
 
-    const EntityId id = target.addEntity(EntityCollection::Tables,
-                                         CUniqueNameGenerator(target, EntityCollection::Tables).takeUnique(tableName(file)),
-                                         std::nullopt, EntityId(common::UUID::generate()));
+    const EntityId id =
+        target.addEntity(EntityCollection::Tables,
+                         CUniqueNameGenerator(target, EntityCollection::Tables).takeUnique(tableName(file)),
+                         std::nullopt, EntityId(common::UUID::generate()));
     target.setEntityProperty(id, std::string(rowsProperty), std::to_wstring(rows));
     target.setEntityProperty(id, std::string(columnsProperty), std::to_wstring(columns));
     target.setEntityProperty(id, std::string(cellsProperty), cellsText(records, columns));

@@ -19,8 +19,9 @@ std::wstring_view numberedCopyStem(std::wstring_view name)
     if (open == std::wstring_view::npos)
         return name;
     const std::wstring_view digits = name.substr(open + 2, name.size() - open - 3);
-    const bool numbered = !digits.empty() && std::ranges::all_of(digits, [](wchar_t character)
-                                                                 { return character >= L'0' && character <= L'9'; });
+    const bool numbered =
+        !digits.empty() &&
+        std::ranges::all_of(digits, [](wchar_t character) { return character >= L'0' && character <= L'9'; });
     return numbered ? name.substr(0, open) : name;
 }
 
