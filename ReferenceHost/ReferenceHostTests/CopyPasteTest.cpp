@@ -23,12 +23,15 @@ namespace aec::model
 namespace
 {
 
-const std::vector<EntityCollection> copyableCollections{
-    EntityCollection::Sheets,       EntityCollection::Tables,
-    EntityCollection::Assemblies,   EntityCollection::Materials,
-    EntityCollection::DoorStyles,   EntityCollection::WindowStyles,
-    EntityCollection::ReinforcementStyles, EntityCollection::Topics,
-    EntityCollection::Images};
+const std::vector<EntityCollection> copyableCollections{EntityCollection::Sheets,
+                                                        EntityCollection::Tables,
+                                                        EntityCollection::Assemblies,
+                                                        EntityCollection::Materials,
+                                                        EntityCollection::DoorStyles,
+                                                        EntityCollection::WindowStyles,
+                                                        EntityCollection::ReinforcementStyles,
+                                                        EntityCollection::Topics,
+                                                        EntityCollection::Images};
 
 EntityId named(const CProject& project, EntityCollection collection, const std::wstring& name)
 {
@@ -66,7 +69,10 @@ protected:
         return services.getCopyDataBuilder().build(collect(entities));
     }
 
-    static const CCopiedEntities& copies(const auto& data) { return dynamic_cast<const CCopiedEntities&>(*data); }
+    static const CCopiedEntities& copies(const auto& data)
+    {
+        return dynamic_cast<const CCopiedEntities&>(*data);
+    }
 
     std::wstring copy(const EntityIdList& entities) { return serializer.serialize(*build(entities)); }
 
@@ -110,9 +116,11 @@ TEST_F(CopyPasteTest, ClassifierSortsEachCollectionIntoOneKind)
     for (const Expected& entry : expected)
         for (const EntityId& id : source->getEntities(entry.collection))
         {
-            EXPECT_EQ(classifier.classifyAsDocument(id), entry.document) << static_cast<int>(entry.collection);
+            EXPECT_EQ(classifier.classifyAsDocument(id), entry.document)
+                << static_cast<int>(entry.collection);
             EXPECT_EQ(classifier.classifyAsStyle(id), entry.style) << static_cast<int>(entry.collection);
-            EXPECT_EQ(classifier.classifyAsResource(id), entry.resource) << static_cast<int>(entry.collection);
+            EXPECT_EQ(classifier.classifyAsResource(id), entry.resource)
+                << static_cast<int>(entry.collection);
         }
     const EntityId unknown(common::UUID::create());
     EXPECT_FALSE(classifier.classifyAsDocument(unknown) || classifier.classifyAsStyle(unknown) ||
@@ -149,7 +157,8 @@ TEST_F(CopyPasteTest, CopyDataHoldsTypeNameTopicAndPropertiesOfEveryCopyableColl
 TEST_F(CopyPasteTest, EverythingCopiedReadsBackAsItWasCopied)
 {
     source->addEntity(EntityCollection::Tables, L"Quotes \" and \\ and\nnew line, tab\t and \U0001F3E0");
-    source->setEntityProperty(source->getEntities(EntityCollection::Images).front(), "caption", L"{\"json\": 1}");
+    source->setEntityProperty(source->getEntities(EntityCollection::Images).front(), "caption",
+                              L"{\"json\": 1}");
     EntityIdList everything;
     for (const EntityCollection collection : copyableCollections)
         for (const EntityId& id : source->getEntities(collection))

@@ -23,7 +23,8 @@ namespace aec::host
 namespace
 {
 
-std::optional<EntityId> named(const model::CProject& project, EntityCollection collection, const std::wstring& name)
+std::optional<EntityId> named(const model::CProject& project, EntityCollection collection,
+                              const std::wstring& name)
 {
     for (const EntityId& id : project.getEntities(collection))
         if (project.findEntity(id)->getName() == name)
@@ -40,8 +41,8 @@ TEST(EntityControllerOverServicesTest, TheExplorersOperationsRunOnTheReferenceHo
     model::CProjectServices services(*project);
     const auto factory = project_explorer::createProjectExplorerEntityControllerFactory(
         host.getClipboard(), host.getProxyAppGui(), host.getTranslation(), host.getSessionManager(),
-        host.getImportFileDialog(), host.getPropertyEditor(), host.getDialogService(), host.getTableImporter(),
-        host.getPasteDataSerializer());
+        host.getImportFileDialog(), host.getPropertyEditor(), host.getDialogService(),
+        host.getTableImporter(), host.getPasteDataSerializer());
     const auto controller = services.createController(*factory);
 
     const EntityId sheet = *named(*project, EntityCollection::Sheets, L"Sheet A-101");

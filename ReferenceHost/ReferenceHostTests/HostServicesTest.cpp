@@ -1,5 +1,5 @@
-#include "HostServices/Clipboard.h"
 #include "HostServices/HostServices.h"
+#include "HostServices/Clipboard.h"
 #include "HostServices/ProxyAppGui.h"
 #include "HostServices/ScriptedDialogService.h"
 #include "HostServices/ScriptedImportFileDialog.h"
@@ -67,7 +67,8 @@ TEST(TranslationTest, TextsTakeTheirArgumentAndMissingOnesShowTheirNumber)
 
     EXPECT_EQ(translation.fillIn(translation.getText(text_ids::deleteOneQuestion), L"Plan {}"),
               L"Delete \"Plan {}\"?");
-    EXPECT_EQ(translation.fillIn(translation.getText(text_ids::deleteManyQuestion), L"12"), L"Delete 12 entities?");
+    EXPECT_EQ(translation.fillIn(translation.getText(text_ids::deleteManyQuestion), L"12"),
+              L"Delete 12 entities?");
     EXPECT_EQ(translation.fillIn(L"{} of {}", L"3"), L"3 of 3");
     EXPECT_EQ(translation.fillIn(L"Rename", L"3"), L"Rename");
 }

@@ -28,7 +28,10 @@ protected:
     PasteDataSerializerTest()
     {
         CopyCollections collections;
-        const auto first = [this](EntityCollection collection) { return project->getEntities(collection).front(); };
+        const auto first = [this](EntityCollection collection)
+        {
+            return project->getEntities(collection).front();
+        };
         collections[static_cast<std::size_t>(CopyCollection::Sheets)] = {first(EntityCollection::Sheets)};
         collections[static_cast<std::size_t>(CopyCollection::Images)] = {first(EntityCollection::Images)};
         good = json::parse(toUtf8(serializer.serialize(*services.getCopyDataBuilder().build(collections))));
@@ -88,45 +91,51 @@ TEST_F(PasteDataSerializerTest, TextThatIsNoPasteDataIsRefused)
     expectRefused(L"{\"format\": \"project-entities\"", "it is not valid JSON");
     expectRefused(L"[1, 2]", "it is not a JSON object");
     expectDocumentRefused(with(json::json_pointer("/format"), "aec-model-project"),
-                  "it is not project entity data (\"format\" is not \"project-entities\")");
+                          "it is not project entity data (\"format\" is not \"project-entities\")");
     expectDocumentRefused(with(json::json_pointer("/format"), 7), "\"format\" is not \"project-entities\"");
-    expectDocumentRefused(with(json::json_pointer("/version"), 2), "it has version 2, and this program reads version 1");
+    expectDocumentRefused(with(json::json_pointer("/version"), 2),
+                          "it has version 2, and this program reads version 1");
     expectDocumentRefused(with(json::json_pointer("/version"), "1"), "it has no \"version\" number");
     json noCollections = good;
     noCollections.erase("collections");
     expectDocumentRefused(noCollections, "\"collections\" is missing");
-    expectDocumentRefused(with(json::json_pointer("/collections"), json::array()), "\"collections\" is not a JSON object");
+    expectDocumentRefused(with(json::json_pointer("/collections"), json::array()),
+                          "\"collections\" is not a JSON object");
 }
 
 TEST_F(PasteDataSerializerTest, CollectionsAndEntitiesOfTheWrongShapeAreRefused)
 {
     expectDocumentRefused(with(json::json_pointer("/collections/furniture"), json::array()),
-                  "it has an unknown collection \"furniture\"");
+                          "it has an unknown collection \"furniture\"");
     expectDocumentRefused(with(json::json_pointer("/collections/linkedModels"), json::array()),
-                  "it has an unknown collection \"linkedModels\"");
+                          "it has an unknown collection \"linkedModels\"");
     expectDocumentRefused(with(json::json_pointer("/collections/tables"), json::object()),
-                  "the collection \"tables\" is not a list");
+                          "the collection \"tables\" is not a list");
 
     const std::string sheet = "entity 1 of the collection \"sheets\" does not read: ";
-    expectDocumentRefused(with(json::json_pointer("/collections/sheets/0"), "Sheet"), sheet + "a JSON object");
-    expectDocumentRefused(with(json::json_pointer("/collections/sheets/0/name"), 12), sheet + "\"name\" is not a text");
+    expectDocumentRefused(with(json::json_pointer("/collections/sheets/0"), "Sheet"),
+                          sheet + "a JSON object");
+    expectDocumentRefused(with(json::json_pointer("/collections/sheets/0/name"), 12),
+                          sheet + "\"name\" is not a text");
     expectDocumentRefused(with(json::json_pointer("/collections/sheets/0/id"), "not-a-uuid"),
-                  sheet + "\"id\" is not a UUID: \"not-a-uuid\"");
+                          sheet + "\"id\" is not a UUID: \"not-a-uuid\"");
     expectDocumentRefused(with(json::json_pointer("/collections/sheets/0/topic/id"), "{1234}"),
-                  sheet + "\"id\" is not a UUID");
+                          sheet + "\"id\" is not a UUID");
     expectDocumentRefused(with(json::json_pointer("/collections/sheets/0/topic/name"), nullptr),
-                  sheet + "\"name\" is not a text");
-    expectDocumentRefused(with(json::json_pointer("/collections/sheets/0/type"), good["collections"]["images"][0]["type"]),
-                  sheet + "\"type\" is " + good["collections"]["images"][0]["type"].get<std::string>());
+                          sheet + "\"name\" is not a text");
+    expectDocumentRefused(
+        with(json::json_pointer("/collections/sheets/0/type"), good["collections"]["images"][0]["type"]),
+        sheet + "\"type\" is " + good["collections"]["images"][0]["type"].get<std::string>());
     expectDocumentRefused(with(json::json_pointer("/collections/sheets/0/properties"), json::array()),
-                  sheet + "\"properties\" is not a JSON object");
+                          sheet + "\"properties\" is not a JSON object");
     expectDocumentRefused(with(json::json_pointer("/collections/sheets/0/properties/scale"), 50),
-                  sheet + "\"properties\" is not a text");
+                          sheet + "\"properties\" is not a text");
     json missingType = good;
     missingType["collections"]["sheets"][0].erase("type");
     expectDocumentRefused(missingType, sheet + "\"type\" is missing");
-    expectDocumentRefused(with(json::json_pointer("/collections/images/0/topic"), good["collections"]["sheets"][0]["topic"]),
-                  "entity 1 of the collection \"images\" does not read: it has a \"topic\"");
+    expectDocumentRefused(
+        with(json::json_pointer("/collections/images/0/topic"), good["collections"]["sheets"][0]["topic"]),
+        "entity 1 of the collection \"images\" does not read: it has a \"topic\"");
 }
 
 TEST_F(PasteDataSerializerTest, EntitiesThatTheProjectDoesNotTakeAreRefused)

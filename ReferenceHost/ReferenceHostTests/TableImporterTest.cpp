@@ -1,6 +1,8 @@
+#include "TemporaryDirectory.h"
+
+#include "AecModel/TableImporter.h"
 #include "AecModel/Project.h"
 #include "AecModel/ProjectFile.h"
-#include "AecModel/TableImporter.h"
 #include "AecModel/WideText.h"
 
 #include "aec/Transaction.h"
@@ -11,7 +13,6 @@
 #include <nlohmann/json.hpp>
 
 #include <filesystem>
-#include <fstream>
 #include <string>
 #include <vector>
 
@@ -26,21 +27,11 @@ using Cells = std::vector<std::vector<std::string>>;
 class TableImporterTest : public ::testing::Test
 {
 protected:
-    TableImporterTest()
-    {
-        const auto* const test = ::testing::UnitTest::GetInstance()->current_test_info();
-        directory = fs::temp_directory_path() / (std::string("aec-table-import-") + test->name());
-        fs::remove_all(directory);
-        fs::create_directories(directory);
-        project.addEntity(EntityCollection::Tables, L"Existing");
-    }
-    ~TableImporterTest() override { fs::remove_all(directory); }
+    TableImporterTest() { project.addEntity(EntityCollection::Tables, L"Existing"); }
 
     fs::path write(const std::string& name, const std::string& bytes) const
     {
-        const fs::path path = directory / name;
-        std::ofstream(path, std::ios::binary) << bytes;
-        return path;
+        return temporary.write(name, bytes);
     }
 
     EntityId import(const fs::path& path)
@@ -56,7 +47,8 @@ protected:
         const CEntity& entity = *project.findEntity(table);
         const Cells cells =
             nlohmann::json::parse(toUtf8(*entity.getProperty(std::string(CTableImporter::cellsProperty))));
-        EXPECT_EQ(entity.getProperty(std::string(CTableImporter::rowsProperty)), std::to_wstring(cells.size()));
+        EXPECT_EQ(entity.getProperty(std::string(CTableImporter::rowsProperty)),
+                  std::to_wstring(cells.size()));
         EXPECT_EQ(entity.getProperty(std::string(CTableImporter::columnsProperty)),
                   std::to_wstring(cells.empty() ? 0 : cells.front().size()));
         return cells;
@@ -75,7 +67,8 @@ protected:
         catch (const common::EException& error)
         {
             const std::string message = error.what();
-            EXPECT_NE(message.find("The table file \"" + path.string() + "\" cannot be imported: "), std::string::npos)
+            EXPECT_NE(message.find("The table file \"" + path.string() + "\" cannot be imported: "),
+                      std::string::npos)
                 << message;
             EXPECT_NE(message.find(lineAndFault), std::string::npos) << message;
         }
@@ -83,7 +76,8 @@ protected:
         EXPECT_FALSE(project.getUndoHistory().canUndo());
     }
 
-    fs::path directory;
+    test::CTemporaryDirectory temporary{"aec-table-import-"};
+    const fs::path& directory = temporary.path();
     CProject project;
     CTableImporter importer;
 };
@@ -96,7 +90,8 @@ TEST_F(TableImporterTest, QuotedFieldsKeepCommasQuotesAndLineBreaks)
                                                              "\"two\r\nlines\",\"\"\r\n"
                                                              "D3,\"a\nb\"\r\n"));
     EXPECT_EQ(project.findEntity(table)->getName(), L"Door schedule");
-    EXPECT_EQ(cellsOf(table), (Cells{{"Mark", "Note"}, {"D1, left", "say \"hi\""}, {"two\nlines", ""}, {"D3", "a\nb"}}));
+    EXPECT_EQ(cellsOf(table),
+              (Cells{{"Mark", "Note"}, {"D1, left", "say \"hi\""}, {"two\nlines", ""}, {"D3", "a\nb"}}));
 }
 
 TEST_F(TableImporterTest, RaggedRowsArePaddedAndTextIsKeptAsItIs)
@@ -107,8 +102,9 @@ TEST_F(TableImporterTest, RaggedRowsArePaddedAndTextIsKeptAsItIs)
                                                      "2, Bad ,4.5,extra\n"
                                                      "3,\xF0\x9F\x8F\xA0,"));
     EXPECT_EQ(cellsOf(table), (Cells{{"No", "Name", "Area", ""},
-                                     {"1", "K\xC3\xBC"
-                                           "che",
+                                     {"1",
+                                      "K\xC3\xBC"
+                                      "che",
                                       "", ""},
                                      {"", "", "", ""},
                                      {"2", " Bad ", "4.5", "extra"},
@@ -143,9 +139,12 @@ TEST_F(TableImporterTest, FilesThatDoNotReadAreRefusedWithLineAndFault)
                                       "che\n"),
                   "line 2: the text is not valid UTF-8");
     expectRefused(write("cut.csv", "a,b\n\xE2\x82"), "line 2: the text is not valid UTF-8");
-    expectRefused(write("open.csv", "a,b\n\"open,\n\n"), "line 2: a quoted field starts here and has no closing quote");
-    expectRefused(write("inner.csv", "a,b\r\nc,d\r\n5\" pipe,e\r\n"), "line 3: a quote appears inside an unquoted field");
-    expectRefused(write("after.csv", "\"a\nb\"c,d\n"), "line 2: a quoted field goes on after its closing quote");
+    expectRefused(write("open.csv", "a,b\n\"open,\n\n"),
+                  "line 2: a quoted field starts here and has no closing quote");
+    expectRefused(write("inner.csv", "a,b\r\nc,d\r\n5\" pipe,e\r\n"),
+                  "line 3: a quote appears inside an unquoted field");
+    expectRefused(write("after.csv", "\"a\nb\"c,d\n"),
+                  "line 2: a quoted field goes on after its closing quote");
 }
 
 } // namespace
