@@ -1,6 +1,7 @@
 #include "AecModel/JsonFields.h"
 
 #include "AecModel/JsonFieldError.h"
+#include "AecModel/WideText.h"
 
 #include <fmt/format.h>
 
@@ -43,6 +44,19 @@ const std::string& text(const json& value, const char* name)
     if (!value.is_string())
         throw EJsonFieldError(fmt::format("\"{}\" is not a text", name));
     return value.get_ref<const std::string&>();
+}
+
+std::wstring wideText(const json& value, const char* name)
+{
+    const std::string& utf8 = text(value, name);
+    try
+    {
+        return fromUtf8(utf8);
+    }
+    catch (const common::EException&)
+    {
+        throw EJsonFieldError(fmt::format("\"{}\" is not valid UTF-8", name));
+    }
 }
 
 common::UUID uuid(const json& value, const char* name)

@@ -17,6 +17,8 @@ const nlohmann::json& member(const nlohmann::json& object, const char* name);
 const nlohmann::json* optionalMember(const nlohmann::json& object, const char* name);
 const nlohmann::json& array(const nlohmann::json& object, const char* name);
 const std::string& text(const nlohmann::json& value, const char* name);
+// The text as the model's wide text.
+std::wstring wideText(const nlohmann::json& value, const char* name);
 common::UUID uuid(const nlohmann::json& value, const char* name);
 bool boolean(const nlohmann::json& value, const char* name);
 

@@ -2,9 +2,11 @@
 
 #include "AecModel/EntityCollectionInfo.h"
 #include "AecModel/EntityRecord.h"
+#include "AecModel/InputFile.h"
 #include "AecModel/JsonFieldError.h"
 #include "AecModel/JsonFields.h"
 #include "AecModel/Project.h"
+#include "AecModel/PropertyMapJson.h"
 #include "AecModel/WideText.h"
 
 #include "Common/Exception.h"
@@ -31,13 +33,7 @@ json entityToJson(const CEntity& entity)
     json object{{"id", entity.getId().uuid().toString()}, {"name", toUtf8(entity.getName())}};
     if (const std::optional<TopicId> topic = entity.getTopic())
         object["topic"] = topic->uuid().toString();
-    if (!entity.getProperties().empty())
-    {
-        json properties = json::object();
-        for (const auto& [name, value] : entity.getProperties())
-            properties[name] = toUtf8(value);
-        object["properties"] = std::move(properties);
-    }
+    writeProperties(object, entity.getProperties());
     return object;
 }
 
@@ -57,34 +53,15 @@ json projectToJson(const CProject& project)
                 {"preferences", project.getPreferences().toJson()}};
 }
 
-std::wstring readName(const json& value, const char* name)
-{
-    const std::string& utf8 = fields::text(value, name);
-    try
-    {
-        return fromUtf8(utf8);
-    }
-    catch (const common::EException&)
-    {
-        throw EJsonFieldError(fmt::format("\"{}\" is not valid UTF-8", name));
-    }
-}
-
 EntityRecord readEntity(const json& object, EntityCollection collection)
 {
     EntityRecord record;
     record.collection = collection;
     record.id = EntityId(fields::uuid(fields::member(object, "id"), "id"));
-    record.name = readName(fields::member(object, "name"), "name");
+    record.name = fields::wideText(fields::member(object, "name"), "name");
     if (const json* const topic = fields::optionalMember(object, "topic"))
         record.topic = TopicId(fields::uuid(*topic, "topic"));
-    if (const json* const properties = fields::optionalMember(object, "properties"))
-    {
-        if (!properties->is_object())
-            throw EJsonFieldError("\"properties\" is not a JSON object");
-        for (const auto& [name, value] : properties->items())
-            record.properties.emplace(name, readName(value, "properties"));
-    }
+    record.properties = readProperties(object);
     return record;
 }
 
@@ -159,14 +136,7 @@ void checkReferences(const CollectionRecords& collections)
 
 json parseFile(const std::filesystem::path& path)
 {
-    std::error_code error;
-    if (!std::filesystem::exists(path, error))
-        throw common::EException("the file does not exist");
-    if (!std::filesystem::is_regular_file(path, error))
-        throw common::EException("it is not a regular file");
-    std::ifstream stream(path, std::ios::binary);
-    if (!stream)
-        throw common::EException("the file cannot be opened for reading");
+    std::ifstream stream = openInputFile(path);
     try
     {
         return json::parse(stream);

@@ -1,3 +1,5 @@
+#include "TemporaryDirectory.h"
+
 #include "AecModel/ProjectFile.h"
 #include "AecModel/Project.h"
 #include "AecModel/SampleProject.h"
@@ -24,20 +26,9 @@ namespace fs = std::filesystem;
 class ProjectFileTest : public ::testing::Test
 {
 protected:
-    ProjectFileTest()
-    {
-        const auto* const test = ::testing::UnitTest::GetInstance()->current_test_info();
-        directory = fs::temp_directory_path() / (std::string("aec-model-") + test->name());
-        fs::remove_all(directory);
-        fs::create_directories(directory);
-    }
-    ~ProjectFileTest() override { fs::remove_all(directory); }
-
     fs::path write(const std::string& name, const std::string& text) const
     {
-        const fs::path path = directory / name;
-        std::ofstream(path, std::ios::binary) << text;
-        return path;
+        return temporary.write(name, text);
     }
 
     json savedSample() const
@@ -63,7 +54,8 @@ protected:
         }
     }
 
-    fs::path directory;
+    test::CTemporaryDirectory temporary{"aec-model-"};
+    const fs::path& directory = temporary.path();
 };
 
 TEST_F(ProjectFileTest, SavedProjectLoadsAsItWas)

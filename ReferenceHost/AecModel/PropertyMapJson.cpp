@@ -1,0 +1,33 @@
+#include "AecModel/PropertyMapJson.h"
+
+#include "AecModel/JsonFieldError.h"
+#include "AecModel/JsonFields.h"
+#include "AecModel/WideText.h"
+
+namespace aec::model
+{
+
+void writeProperties(nlohmann::json& entity, const PropertyMap& properties)
+{
+    if (properties.empty())
+        return;
+    nlohmann::json object = nlohmann::json::object();
+    for (const auto& [name, value] : properties)
+        object[name] = toUtf8(value);
+    entity["properties"] = std::move(object);
+}
+
+PropertyMap readProperties(const nlohmann::json& entity)
+{
+    PropertyMap properties;
+    const nlohmann::json* const object = json_fields::optionalMember(entity, "properties");
+    if (object == nullptr)
+        return properties;
+    if (!object->is_object())
+        throw EJsonFieldError("\"properties\" is not a JSON object");
+    for (const auto& [name, value] : object->items())
+        properties.emplace(name, json_fields::wideText(value, "properties"));
+    return properties;
+}
+
+} // namespace aec::model
