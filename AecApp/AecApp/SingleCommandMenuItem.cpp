@@ -1,0 +1,25 @@
+#include "AecApp/SingleCommandMenuItem.h"
+
+#include "AecApp/StandardMenuItem.h"
+
+namespace aec
+{
+
+CSingleCommandMenuItem::CSingleCommandMenuItem(IGui& gui, int textId, std::string_view identifier, int command,
+                                               bool enabled, std::string name)
+    : gui_(gui), textId_(textId), identifier_(identifier), command_(command), enabled_(enabled),
+      name_(std::move(name))
+{
+}
+
+std::vector<CContextMenuItem> CSingleCommandMenuItem::getMenuItems(const ITranslation& translation) const
+{
+    return {makeStandardMenuItem(translation, textId_, identifier_, makeCommandAction(gui_, command_), enabled_)};
+}
+
+std::string CSingleCommandMenuItem::getName() const
+{
+    return name_;
+}
+
+} // namespace aec
