@@ -1,0 +1,100 @@
+#include "AecModel/ChangeApplier.h"
+
+#include "AecModel/ChangeNotifier.h"
+#include "AecModel/EntityStore.h"
+
+#include "Common/Check.h"
+
+#include <ranges>
+
+namespace aec::model
+{
+
+class CChangeApplier::CVisitor
+{
+public:
+    CVisitor(CEntityStore& store, CChangeNotifier& notifier, ChangeDirection direction)
+        : store_(store), notifier_(notifier), forward_(direction == ChangeDirection::Forward)
+    {
+    }
+
+    void operator()(const EntityAdded& change) const
+    {
+        if (forward_)
+            add(change.entity, std::nullopt);
+        else
+            remove(change.entity.id);
+    }
+
+    void operator()(const EntityRemoved& change) const
+    {
+        if (forward_)
+            remove(change.entity.id);
+        else
+            add(change.entity, change.successor);
+    }
+
+    void operator()(const EntityRenamed& change) const
+    {
+        entity(change.id).assignName(forward_ ? change.after : change.before);
+        notifier_.noteChanged(change.id);
+    }
+
+    void operator()(const EntityTopicChanged& change) const
+    {
+        entity(change.id).assignTopic(forward_ ? change.after : change.before);
+        notifier_.noteChanged(change.id);
+    }
+
+    void operator()(const EntityPropertyChanged& change) const
+    {
+        entity(change.id).assignProperty(change.name, forward_ ? std::optional(change.after) : change.before);
+        notifier_.noteChanged(change.id);
+    }
+
+private:
+    void add(const EntityRecord& record, const std::optional<EntityId>& successor) const
+    {
+        store_.insert(record, successor);
+        notifier_.noteAdded(record.id);
+    }
+
+    void remove(const EntityId& id) const
+    {
+        store_.erase(id);
+        notifier_.noteRemoved(id);
+    }
+
+    CEntity& entity(const EntityId& id) const
+    {
+        CEntity* const found = store_.find(id);
+        COMMON_PRECONDITION(found != nullptr);
+        return *found;
+    }
+
+    CEntityStore& store_;
+    CChangeNotifier& notifier_;
+    bool forward_;
+};
+
+CChangeApplier::CChangeApplier(CEntityStore& store, CChangeNotifier& notifier) : store_(store), notifier_(notifier)
+{
+}
+
+void CChangeApplier::apply(const ModelChange& change, ChangeDirection direction)
+{
+    std::visit(CVisitor(store_, notifier_, direction), change);
+}
+
+void CChangeApplier::replay(const std::vector<ModelChange>& changes, ChangeDirection direction)
+{
+    if (direction == ChangeDirection::Forward)
+        for (const ModelChange& change : changes)
+            apply(change, direction);
+    else
+        for (const ModelChange& change : std::views::reverse(changes))
+            apply(change, direction);
+    notifier_.flushUnlessBatched();
+}
+
+} // namespace aec::model

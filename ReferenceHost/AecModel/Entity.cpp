@@ -1,0 +1,96 @@
+#include "AecModel/Entity.h"
+
+#include "AecModel/EntityCollectionInfo.h"
+#include "AecModel/Project.h"
+
+namespace aec::model
+{
+
+CEntity::CEntity(CProject& project, const EntityRecord& record)
+    : project_(project), id_(record.id), topic_(record.topic), collection_(record.collection), name_(record.name),
+      properties_(record.properties.empty() ? nullptr : std::make_unique<PropertyMap>(record.properties))
+{
+}
+
+CEntity::~CEntity() = default;
+
+EntityId CEntity::getId() const
+{
+    return id_;
+}
+
+EntityTypeId CEntity::getType() const
+{
+    return collectionInfo(collection_).type;
+}
+
+const std::wstring& CEntity::getName() const
+{
+    return name_;
+}
+
+AttributeValue CEntity::getPropertyValue(const PropertyAssignmentKey& key) const
+{
+    if (key == PropertyAssignmentKey::topic() && topic_)
+        return topic_->uuid();
+    return std::monostate{};
+}
+
+std::optional<TopicId> CEntity::getTopic() const
+{
+    return topic_;
+}
+
+void CEntity::setTopic(const TopicId& topic)
+{
+    project_.setEntityTopic(id_, topic);
+}
+
+std::optional<std::wstring> CEntity::getProperty(const std::string& name) const
+{
+    if (!properties_)
+        return std::nullopt;
+    const auto found = properties_->find(name);
+    if (found == properties_->end())
+        return std::nullopt;
+    return found->second;
+}
+
+const PropertyMap& CEntity::getProperties() const
+{
+    static const PropertyMap none;
+    return properties_ ? *properties_ : none;
+}
+
+EntityRecord CEntity::toRecord() const
+{
+    return EntityRecord{id_, collection_, name_, topic_, getProperties()};
+}
+
+void CEntity::assignName(std::wstring name)
+{
+    name_ = std::move(name);
+}
+
+void CEntity::assignTopic(const std::optional<TopicId>& topic)
+{
+    topic_ = topic;
+}
+
+void CEntity::assignProperty(const std::string& name, const std::optional<std::wstring>& value)
+{
+    if (value)
+    {
+        if (!properties_)
+            properties_ = std::make_unique<PropertyMap>();
+        (*properties_)[name] = *value;
+        return;
+    }
+    if (!properties_)
+        return;
+    properties_->erase(name);
+    if (properties_->empty())
+        properties_.reset();
+}
+
+} // namespace aec::model

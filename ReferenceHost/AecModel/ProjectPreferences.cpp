@@ -1,0 +1,70 @@
+#include "AecModel/ProjectPreferences.h"
+
+#include "AecModel/ExplorerStateJson.h"
+
+#include <fmt/format.h>
+#include <nlohmann/json.hpp>
+
+namespace aec::model
+{
+
+namespace
+{
+
+constexpr const char* explorerStateKey = "projectExplorer";
+
+} // namespace
+
+CProjectPreferences::~CProjectPreferences() = default;
+
+std::optional<ProjectExplorerState> CProjectPreferences::getProjectExplorerState() const
+{
+    return explorerState_;
+}
+
+void CProjectPreferences::setProjectExplorerState(const ProjectExplorerState& state)
+{
+    explorerState_ = state;
+}
+
+nlohmann::json CProjectPreferences::toJson() const
+{
+    nlohmann::json json = nlohmann::json::object();
+    if (explorerState_)
+        json[explorerStateKey] = explorerStateToJson(*explorerState_);
+    return json;
+}
+
+void CProjectPreferences::fromJson(const nlohmann::json& json)
+{
+    explorerState_.reset();
+    warnings_.clear();
+    if (!json.is_object())
+    {
+        warnings_.push_back(fmt::format("The stored preferences are not a JSON object but {}; they were dropped.",
+                                        json.type_name()));
+        return;
+    }
+    const auto stored = json.find(explorerStateKey);
+    if (stored != json.end() && !stored->is_null())
+        explorerState_ = explorerStateFromJson(*stored, warnings_);
+}
+
+void CProjectPreferences::fromJsonText(std::string_view text)
+{
+    nlohmann::json json;
+    try
+    {
+        json = nlohmann::json::parse(text);
+    }
+    catch (const nlohmann::json::parse_error& error)
+    {
+        explorerState_.reset();
+        warnings_.assign(1, fmt::format("The stored preferences are not valid JSON ({}); they were dropped.",
+                                        error.what()));
+        return;
+    }
+    fromJson(json);
+}
+
+} // namespace aec::model

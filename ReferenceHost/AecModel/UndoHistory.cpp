@@ -1,0 +1,100 @@
+#include "AecModel/UndoHistory.h"
+
+#include "AecModel/ChangeApplier.h"
+#include "AecModel/TransactionHost.h"
+
+#include "Common/Check.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace aec::model
+{
+
+namespace
+{
+
+std::vector<std::string> namesFromTop(const std::vector<CUndoStep>& steps)
+{
+    std::vector<std::string> names;
+    names.reserve(steps.size());
+    std::transform(steps.rbegin(), steps.rend(), std::back_inserter(names),
+                   [](const CUndoStep& step) { return step.name; });
+    return names;
+}
+
+std::optional<std::string> topName(const std::vector<CUndoStep>& steps)
+{
+    if (steps.empty())
+        return std::nullopt;
+    return steps.back().name;
+}
+
+} // namespace
+
+CUndoHistory::CUndoHistory(CChangeApplier& applier, const CTransactionHost& transactions)
+    : applier_(applier), transactions_(transactions)
+{
+}
+
+bool CUndoHistory::canUndo() const noexcept
+{
+    return !undoSteps_.empty() && !transactions_.isOpen();
+}
+
+bool CUndoHistory::canRedo() const noexcept
+{
+    return !redoSteps_.empty() && !transactions_.isOpen();
+}
+
+void CUndoHistory::undo()
+{
+    COMMON_PRECONDITION(canUndo());
+    CUndoStep step = std::move(undoSteps_.back());
+    undoSteps_.pop_back();
+    applier_.replay(step.changes, ChangeDirection::Backward);
+    redoSteps_.push_back(std::move(step));
+}
+
+void CUndoHistory::redo()
+{
+    COMMON_PRECONDITION(canRedo());
+    CUndoStep step = std::move(redoSteps_.back());
+    redoSteps_.pop_back();
+    applier_.replay(step.changes, ChangeDirection::Forward);
+    undoSteps_.push_back(std::move(step));
+}
+
+std::optional<std::string> CUndoHistory::getUndoName() const
+{
+    return topName(undoSteps_);
+}
+
+std::optional<std::string> CUndoHistory::getRedoName() const
+{
+    return topName(redoSteps_);
+}
+
+std::vector<std::string> CUndoHistory::getUndoNames() const
+{
+    return namesFromTop(undoSteps_);
+}
+
+std::vector<std::string> CUndoHistory::getRedoNames() const
+{
+    return namesFromTop(redoSteps_);
+}
+
+void CUndoHistory::push(CUndoStep step)
+{
+    undoSteps_.push_back(std::move(step));
+    redoSteps_.clear();
+}
+
+void CUndoHistory::clear() noexcept
+{
+    undoSteps_.clear();
+    redoSteps_.clear();
+}
+
+} // namespace aec::model
