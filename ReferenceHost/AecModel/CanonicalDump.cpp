@@ -36,14 +36,17 @@ std::string makeCanonicalDump(const CEntityStore& store)
         std::size_t count = 0;
         store.forEach(info.collection, [&count](const CEntity&) { ++count; });
         fmt::format_to(out, "[{}] {}\n", info.key, count);
-        store.forEach(info.collection, [&](const CEntity& entity) {
-            const std::optional<TopicId> topic = entity.getTopic();
-            fmt::format_to(out, "{} {} {} topic={}", entity.getId().uuid().toString(), entity.getType().toString(),
-                           jsonQuoted(entity.getName()), topic ? topic->uuid().toString() : "-");
-            for (const auto& [name, value] : entity.getProperties())
-                fmt::format_to(out, " {}={}", jsonQuoted(name), jsonQuoted(value));
-            dump += '\n';
-        });
+        store.forEach(info.collection,
+                      [&](const CEntity& entity)
+                      {
+                          const std::optional<TopicId> topic = entity.getTopic();
+                          fmt::format_to(out, "{} {} {} topic={}", entity.getId().uuid().toString(),
+                                         entity.getType().toString(), jsonQuoted(entity.getName()),
+                                         topic ? topic->uuid().toString() : "-");
+                          for (const auto& [name, value] : entity.getProperties())
+                              fmt::format_to(out, " {}={}", jsonQuoted(name), jsonQuoted(value));
+                          dump += '\n';
+                      });
     }
     return dump;
 }

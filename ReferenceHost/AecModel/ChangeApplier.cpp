@@ -77,7 +77,8 @@ private:
     bool forward_;
 };
 
-CChangeApplier::CChangeApplier(CEntityStore& store, CChangeNotifier& notifier) : store_(store), notifier_(notifier)
+CChangeApplier::CChangeApplier(CEntityStore& store, CChangeNotifier& notifier)
+    : store_(store), notifier_(notifier)
 {
 }
 

@@ -61,9 +61,8 @@ void CChangeNotifier::flush()
     EntityIdSet removed;
     for (const auto& [id, kind] : pending)
         (kind == Pending::Removed ? removed : changed).insert(id);
-    observers_.notify([&](IObjectEvents& observer) {
-        observer.onObjectsChanged(objectEventEntitiesChanged, 0, changed, removed);
-    });
+    observers_.notify([&](IObjectEvents& observer)
+                      { observer.onObjectsChanged(objectEventEntitiesChanged, 0, changed, removed); });
 }
 
 } // namespace aec::model

@@ -3,9 +3,7 @@
 namespace aec::model
 {
 
-CEditCommand::CEditCommand(const EntityId& entity) : entity_(entity)
-{
-}
+CEditCommand::CEditCommand(const EntityId& entity) : entity_(entity) {}
 
 CEditCommand::~CEditCommand() = default;
 

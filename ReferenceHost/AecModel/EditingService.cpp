@@ -10,9 +10,7 @@
 namespace aec::model
 {
 
-CEditingService::CEditingService(CProject& project) : project_(project)
-{
-}
+CEditingService::CEditingService(CProject& project) : project_(project) {}
 
 CEditingService::~CEditingService() = default;
 

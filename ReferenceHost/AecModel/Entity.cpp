@@ -7,7 +7,8 @@ namespace aec::model
 {
 
 CEntity::CEntity(CProject& project, const EntityRecord& record)
-    : project_(project), id_(record.id), topic_(record.topic), collection_(record.collection), name_(record.name),
+    : project_(project), id_(record.id), topic_(record.topic), collection_(record.collection),
+      name_(record.name),
       properties_(record.properties.empty() ? nullptr : std::make_unique<PropertyMap>(record.properties))
 {
 }

@@ -52,7 +52,8 @@ private:
     friend class CChangeApplier; // the one writer of entity content
     friend class CEntityStore;   // keeps entities in collection order through the hook
 
-    using OrderHook = boost::intrusive::list_member_hook<boost::intrusive::link_mode<boost::intrusive::normal_link>>;
+    using OrderHook =
+        boost::intrusive::list_member_hook<boost::intrusive::link_mode<boost::intrusive::normal_link>>;
 
     void assignName(std::wstring name);
     void assignTopic(const std::optional<TopicId>& topic);

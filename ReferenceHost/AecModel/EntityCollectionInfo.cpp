@@ -38,8 +38,8 @@ const EntityCollectionInfo& collectionInfo(EntityCollection collection)
 std::optional<EntityCollection> collectionFromKey(std::string_view key)
 {
     const EntityCollectionInfos& infos = entityCollections();
-    const auto found =
-        std::find_if(infos.begin(), infos.end(), [key](const EntityCollectionInfo& info) { return info.key == key; });
+    const auto found = std::find_if(infos.begin(), infos.end(),
+                                    [key](const EntityCollectionInfo& info) { return info.key == key; });
     if (found == infos.end())
         return std::nullopt;
     return found->collection;

@@ -6,9 +6,7 @@
 namespace aec::model
 {
 
-CEntityStore::CEntityStore(CProject& owner) : owner_(owner)
-{
-}
+CEntityStore::CEntityStore(CProject& owner) : owner_(owner) {}
 
 CEntityStore::~CEntityStore()
 {

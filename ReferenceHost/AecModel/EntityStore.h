@@ -52,8 +52,8 @@ public:
     void erase(const EntityId& id);
 
 private:
-    using OrderList =
-        boost::intrusive::list<CEntity, boost::intrusive::member_hook<CEntity, CEntity::OrderHook, &CEntity::orderHook_>>;
+    using OrderList = boost::intrusive::list<
+        CEntity, boost::intrusive::member_hook<CEntity, CEntity::OrderHook, &CEntity::orderHook_>>;
 
     OrderList& orderOf(EntityCollection collection);
     const OrderList& orderOf(EntityCollection collection) const;

@@ -34,8 +34,8 @@ std::uint32_t readSortOrder(const json& value)
 const ProjectExplorerGroupInfo* findGroup(const common::UUID& id)
 {
     const auto& groups = projectExplorerGroups();
-    const auto found =
-        std::find_if(groups.begin(), groups.end(), [&id](const ProjectExplorerGroupInfo& group) { return group.id == id; });
+    const auto found = std::find_if(groups.begin(), groups.end(),
+                                    [&id](const ProjectExplorerGroupInfo& group) { return group.id == id; });
     return found == groups.end() ? nullptr : &*found;
 }
 
@@ -45,11 +45,11 @@ void checkGrouping(const ProjectExplorerGroupInfo& group, const ProjectExplorerG
 {
     const PropertyAssignmentKey key(state.groupingPath, state.groupingProperty);
     const bool unset = state.groupingPath.empty() && state.groupingProperty.isNull();
-    if (unset || key == PropertyAssignmentKey::noGrouping() || (group.groupable && key == PropertyAssignmentKey::topic()))
+    if (unset || key == PropertyAssignmentKey::noGrouping() ||
+        (group.groupable && key == PropertyAssignmentKey::topic()))
         return;
-    throw EJsonFieldError(
-        fmt::format("the group \"{}\" cannot be grouped by the stored property {}", toUtf8(group.name),
-                    state.groupingProperty.toString()));
+    throw EJsonFieldError(fmt::format("the group \"{}\" cannot be grouped by the stored property {}",
+                                      toUtf8(group.name), state.groupingProperty.toString()));
 }
 
 std::pair<common::UUID, ProjectExplorerGroupState> readGroup(const json& entry)
@@ -100,13 +100,15 @@ json explorerStateToJson(const ProjectExplorerState& state)
     return json{{"groups", std::move(groups)}};
 }
 
-std::optional<ProjectExplorerState> explorerStateFromJson(const json& stored, std::vector<std::string>& warnings)
+std::optional<ProjectExplorerState> explorerStateFromJson(const json& stored,
+                                                          std::vector<std::string>& warnings)
 {
     const auto groups = stored.is_object() ? stored.find("groups") : stored.end();
     if (!stored.is_object() || groups == stored.end() || !groups->is_array())
     {
-        warnings.push_back("The stored explorer state is not a JSON object with a list of \"groups\"; the explorer "
-                           "starts with its default state.");
+        warnings.push_back(
+            "The stored explorer state is not a JSON object with a list of \"groups\"; the explorer "
+            "starts with its default state.");
         return std::nullopt;
     }
     ProjectExplorerState state;
@@ -126,7 +128,7 @@ std::optional<ProjectExplorerState> explorerStateFromJson(const json& stored, st
                                            reason.what()));
         }
     }
-    if (state.empty() && !groups->empty())
+    if (state.empty() && position > 0)
         return std::nullopt;
     return state;
 }

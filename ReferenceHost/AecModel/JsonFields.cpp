@@ -24,7 +24,8 @@ const json& member(const json& object, const char* name)
 const json* optionalMember(const json& object, const char* name)
 {
     if (!object.is_object())
-        throw EJsonFieldError(fmt::format("a JSON object with \"{}\" was expected, not {}", name, object.type_name()));
+        throw EJsonFieldError(
+            fmt::format("a JSON object with \"{}\" was expected, not {}", name, object.type_name()));
     const auto found = object.find(name);
     return found == object.end() ? nullptr : &*found;
 }
@@ -46,7 +47,8 @@ const std::string& text(const json& value, const char* name)
 
 common::UUID uuid(const json& value, const char* name)
 {
-    if (const std::optional<common::UUID> parsed = common::UUID::tryParse(std::string_view(text(value, name))))
+    if (const std::optional<common::UUID> parsed =
+            common::UUID::tryParse(std::string_view(text(value, name))))
         return *parsed;
     throw EJsonFieldError(fmt::format("\"{}\" is not a UUID: {}", name, value.dump()));
 }

@@ -54,9 +54,8 @@ const CEntity* CProject::findEntity(const EntityId& id) const
 std::vector<CTopic> CProject::getTopics() const
 {
     std::vector<CTopic> topics;
-    store_.forEach(EntityCollection::Topics, [&topics](const CEntity& topic) {
-        topics.emplace_back(TopicId(topic.getId().uuid()), topic.getName());
-    });
+    store_.forEach(EntityCollection::Topics, [&topics](const CEntity& topic)
+                   { topics.emplace_back(TopicId(topic.getId().uuid()), topic.getName()); });
     return topics;
 }
 
@@ -88,14 +87,15 @@ CDocument& CProject::getDocument() const
 void CProject::prepareTopicChange(const std::vector<IEntity*>& entities, const TopicId& topic)
 {
     if (!isTopic(topic))
-        throw common::EException(
-            fmt::format("The topic {} is no longer part of the project; choose another topic.", topic.uuid().toString()));
+        throw common::EException(fmt::format(
+            "The topic {} is no longer part of the project; choose another topic.", topic.uuid().toString()));
     for (const IEntity* const entity : entities)
     {
         COMMON_PRECONDITION(entity != nullptr);
         const CEntity* const ours = findEntity(entity->getId());
         if (ours == nullptr || !collectionInfo(ours->getCollection()).bearsTopic)
-            throw common::EException(fmt::format("\"{}\" cannot be given a topic.", toUtf8(entity->getName())));
+            throw common::EException(
+                fmt::format("\"{}\" cannot be given a topic.", toUtf8(entity->getName())));
     }
 }
 
@@ -105,7 +105,8 @@ void CProject::setChangeOrigin(const char* file, int line)
     changeOrigin_ = ChangeOrigin{file, line};
 }
 
-EntityId CProject::addEntity(EntityCollection collection, std::wstring name, std::optional<TopicId> topic, EntityId id)
+EntityId CProject::addEntity(EntityCollection collection, std::wstring name, std::optional<TopicId> topic,
+                             EntityId id)
 {
     if (id.isNull())
         id = EntityId(common::UUID::generate());
@@ -238,10 +239,12 @@ void CProject::clearTopicEverywhere(const TopicId& topic)
     EntityIdList members;
     for (const EntityCollectionInfo& info : entityCollections())
         if (info.bearsTopic)
-            store_.forEach(info.collection, [&](const CEntity& entity) {
-                if (entity.getTopic() == topic)
-                    members.push_back(entity.getId());
-            });
+            store_.forEach(info.collection,
+                           [&](const CEntity& entity)
+                           {
+                               if (entity.getTopic() == topic)
+                                   members.push_back(entity.getId());
+                           });
     for (const EntityId& member : members)
         setEntityTopic(member, std::nullopt);
 }

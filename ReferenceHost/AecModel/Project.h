@@ -63,8 +63,8 @@ public:
 
     // A null identifier is replaced by a fresh one. The identifier must be new; a topic must be one
     // of the project's topics, and only the collections that bear topics take one.
-    EntityId addEntity(EntityCollection collection, std::wstring name, std::optional<TopicId> topic = std::nullopt,
-                       EntityId id = {});
+    EntityId addEntity(EntityCollection collection, std::wstring name,
+                       std::optional<TopicId> topic = std::nullopt, EntityId id = {});
     TopicId addTopic(std::wstring name);
     // Removing a topic first takes it away from every entity that has it.
     void removeEntity(const EntityId& id);

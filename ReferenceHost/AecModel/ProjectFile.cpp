@@ -102,7 +102,8 @@ CollectionRecords readCollections(const json& collections)
     CollectionRecords result;
     for (const EntityCollectionInfo& info : entityCollections())
     {
-        std::vector<EntityRecord>& records = result.emplace_back(info.collection, std::vector<EntityRecord>{}).second;
+        std::vector<EntityRecord>& records =
+            result.emplace_back(info.collection, std::vector<EntityRecord>{}).second;
         const auto entities = collections.find(std::string(info.key));
         if (entities == collections.end())
             continue;
@@ -116,9 +117,8 @@ CollectionRecords readCollections(const json& collections)
             }
             catch (const EJsonFieldError& error)
             {
-                throw common::EException(
-                    fmt::format("entity {} of the collection \"{}\" does not read: {}", records.size() + 1, info.key,
-                                error.what()));
+                throw common::EException(fmt::format("entity {} of the collection \"{}\" does not read: {}",
+                                                     records.size() + 1, info.key, error.what()));
             }
         }
     }
@@ -135,7 +135,8 @@ void checkReferences(const CollectionRecords& collections)
         for (const EntityRecord& record : records)
         {
             if (!ids.insert(record.id).second)
-                throw common::EException(fmt::format("the entity {} appears twice", record.id.uuid().toString()));
+                throw common::EException(
+                    fmt::format("the entity {} appears twice", record.id.uuid().toString()));
             if (collection == EntityCollection::Topics)
                 topics.insert(record.id);
         }
@@ -145,12 +146,14 @@ void checkReferences(const CollectionRecords& collections)
             if (!record.topic)
                 continue;
             if (!collectionInfo(collection).bearsTopic)
-                throw common::EException(fmt::format("the entity {} of \"{}\" has a topic, which its collection does "
-                                                     "not allow",
-                                                     record.id.uuid().toString(), collectionInfo(collection).key));
+                throw common::EException(
+                    fmt::format("the entity {} of \"{}\" has a topic, which its collection does "
+                                "not allow",
+                                record.id.uuid().toString(), collectionInfo(collection).key));
             if (!topics.contains(EntityId(record.topic->uuid())))
-                throw common::EException(fmt::format("the entity {} refers to the topic {}, which is not in the file",
-                                                     record.id.uuid().toString(), record.topic->uuid().toString()));
+                throw common::EException(
+                    fmt::format("the entity {} refers to the topic {}, which is not in the file",
+                                record.id.uuid().toString(), record.topic->uuid().toString()));
         }
 }
 
@@ -181,8 +184,8 @@ void checkHeader(const json& document)
     const auto format = document.find("format");
     if (format == document.end() || !format->is_string() ||
         format->get_ref<const std::string&>() != CProjectFile::formatName)
-        throw common::EException(fmt::format("it is not a project file (\"format\" is not \"{}\")",
-                                             CProjectFile::formatName));
+        throw common::EException(
+            fmt::format("it is not a project file (\"format\" is not \"{}\")", CProjectFile::formatName));
     const auto version = document.find("version");
     if (version == document.end() || !version->is_number_integer())
         throw common::EException("it has no \"version\" number");
@@ -231,7 +234,8 @@ void CProjectFile::save(const CProject& project, const std::filesystem::path& pa
     {
         const std::string reason = error.message();
         std::filesystem::remove(temporary, error);
-        throw common::EException(fmt::format("Cannot save the project file \"{}\": {}.", path.string(), reason));
+        throw common::EException(
+            fmt::format("Cannot save the project file \"{}\": {}.", path.string(), reason));
     }
 }
 
@@ -251,7 +255,8 @@ std::unique_ptr<CProject> CProjectFile::load(const std::filesystem::path& path)
     }
     catch (const common::EException& error)
     {
-        throw common::EException(fmt::format("Cannot load the project file \"{}\": {}.", path.string(), error.what()));
+        throw common::EException(
+            fmt::format("Cannot load the project file \"{}\": {}.", path.string(), error.what()));
     }
 }
 

@@ -41,8 +41,8 @@ void CProjectPreferences::fromJson(const nlohmann::json& json)
     warnings_.clear();
     if (!json.is_object())
     {
-        warnings_.push_back(fmt::format("The stored preferences are not a JSON object but {}; they were dropped.",
-                                        json.type_name()));
+        warnings_.push_back(fmt::format(
+            "The stored preferences are not a JSON object but {}; they were dropped.", json.type_name()));
         return;
     }
     const auto stored = json.find(explorerStateKey);

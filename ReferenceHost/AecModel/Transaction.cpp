@@ -7,9 +7,7 @@
 namespace aec::model
 {
 
-CTransaction::CTransaction(CTransactionHost& host, std::uint64_t serial) : host_(host), serial_(serial)
-{
-}
+CTransaction::CTransaction(CTransactionHost& host, std::uint64_t serial) : host_(host), serial_(serial) {}
 
 CTransaction::~CTransaction()
 {

@@ -50,19 +50,13 @@ bool CUndoHistory::canRedo() const noexcept
 void CUndoHistory::undo()
 {
     COMMON_PRECONDITION(canUndo());
-    CUndoStep step = std::move(undoSteps_.back());
-    undoSteps_.pop_back();
-    applier_.replay(step.changes, ChangeDirection::Backward);
-    redoSteps_.push_back(std::move(step));
+    replayTop(undoSteps_, redoSteps_, ChangeDirection::Backward);
 }
 
 void CUndoHistory::redo()
 {
     COMMON_PRECONDITION(canRedo());
-    CUndoStep step = std::move(redoSteps_.back());
-    redoSteps_.pop_back();
-    applier_.replay(step.changes, ChangeDirection::Forward);
-    undoSteps_.push_back(std::move(step));
+    replayTop(redoSteps_, undoSteps_, ChangeDirection::Forward);
 }
 
 std::optional<std::string> CUndoHistory::getUndoName() const
@@ -89,6 +83,14 @@ void CUndoHistory::push(CUndoStep step)
 {
     undoSteps_.push_back(std::move(step));
     redoSteps_.clear();
+}
+
+void CUndoHistory::replayTop(std::vector<CUndoStep>& from, std::vector<CUndoStep>& to, ChangeDirection direction)
+{
+    CUndoStep step = std::move(from.back());
+    from.pop_back();
+    applier_.replay(step.changes, direction);
+    to.push_back(std::move(step));
 }
 
 void CUndoHistory::clear() noexcept

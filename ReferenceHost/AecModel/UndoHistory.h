@@ -42,6 +42,9 @@ public:
     void clear() noexcept;
 
 private:
+    // Replays the top step of one stack and moves it onto the other.
+    void replayTop(std::vector<CUndoStep>& from, std::vector<CUndoStep>& to, ChangeDirection direction);
+
     CChangeApplier& applier_;
     const CTransactionHost& transactions_;
     std::vector<CUndoStep> undoSteps_;

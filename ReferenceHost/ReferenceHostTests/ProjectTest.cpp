@@ -37,7 +37,8 @@ TEST(ProjectTest, EntitiesKeepTheirCollectionAndTopic)
     EXPECT_EQ(entity.getPropertyValue(PropertyAssignmentKey::topic()), AttributeValue(topic.uuid()));
     EXPECT_TRUE(std::holds_alternative<std::monostate>(
         project.findEntity(wall)->getPropertyValue(PropertyAssignmentKey::topic())));
-    EXPECT_TRUE(std::holds_alternative<std::monostate>(entity.getPropertyValue(PropertyAssignmentKey::noGrouping())));
+    EXPECT_TRUE(
+        std::holds_alternative<std::monostate>(entity.getPropertyValue(PropertyAssignmentKey::noGrouping())));
 }
 
 TEST(ProjectTest, TopicSetThroughTheEntityIsUndoable)
@@ -92,10 +93,11 @@ TEST(ProjectTest, MisuseIsAContractViolationOfTheProject)
     const TopicId topic = project.addTopic(L"Topic");
     const EntityId image = project.addEntity(EntityCollection::Images, L"Photo");
 
-    const std::string duplicate =
-        preconditionSite([&] { project.addEntity(EntityCollection::Images, L"Same id", std::nullopt, image); });
+    const std::string duplicate = preconditionSite(
+        [&] { project.addEntity(EntityCollection::Images, L"Same id", std::nullopt, image); });
     const std::string imageTopic = preconditionSite([&] { project.setEntityTopic(image, topic); });
-    const std::string unknown = preconditionSite([&] { project.removeEntity(EntityId(common::UUID::create())); });
+    const std::string unknown =
+        preconditionSite([&] { project.removeEntity(EntityId(common::UUID::create())); });
 
     for (const std::string& site : {duplicate, imageTopic, unknown})
         EXPECT_NE(site.find("ReferenceHost/AecModel/Project.cpp"), std::string::npos) << site;

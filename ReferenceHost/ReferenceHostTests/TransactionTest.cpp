@@ -103,7 +103,8 @@ TEST_F(TransactionTest, DestructionWithoutCommitRestoresTheProjectExactly)
 TEST_F(TransactionTest, ExceptionInsideTransactionRollsBack)
 {
     const std::string before = project.canonicalDump();
-    const auto work = [&] {
+    const auto work = [&]
+    {
         auto transaction = open("Failing work");
         project.renameEntity(sheets[0], L"Half done");
         throw common::EException("work failed");
@@ -123,7 +124,8 @@ TEST_F(TransactionTest, NestedTransactionJoinsTheOuterOne)
         auto abandoned = open("Inner abandoned");
         project.removeEntity(sheets[1]);
     }
-    EXPECT_EQ(project.canonicalDump(), afterOuterChange) << "an inner rollback takes back only its own changes";
+    EXPECT_EQ(project.canonicalDump(), afterOuterChange)
+        << "an inner rollback takes back only its own changes";
     {
         auto inner = open("Inner kept");
         project.removeEntity(sheets[2]);
@@ -176,7 +178,8 @@ TEST_F(TransactionTest, HistoryKeepsStepsInOrderAndLosesRedoOnNewWork)
         empty->commit();
     }
     CUndoHistory& history = project.getUndoHistory();
-    EXPECT_EQ(history.getUndoNames(), (Names{"Third", "Second", "First"})) << "an empty transaction leaves no step";
+    EXPECT_EQ(history.getUndoNames(), (Names{"Third", "Second", "First"}))
+        << "an empty transaction leaves no step";
     history.undo();
     history.undo();
     EXPECT_EQ(project.findEntity(sheets[0])->getName(), L"First");
