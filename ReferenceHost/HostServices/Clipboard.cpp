@@ -1,0 +1,51 @@
+#include "HostServices/Clipboard.h"
+
+namespace aec::host
+{
+
+CClipboard::CClipboard() = default;
+
+CClipboard::~CClipboard() = default;
+
+void CClipboard::setData(std::uint32_t format, const std::wstring& data)
+{
+    replaceContent(Content{format, data});
+}
+
+std::optional<std::wstring> CClipboard::getData(std::uint32_t format) const
+{
+    if (!hasData(format))
+        return std::nullopt;
+    return content_->data;
+}
+
+bool CClipboard::hasData(std::uint32_t format) const
+{
+    return content_ && content_->format == format;
+}
+
+void CClipboard::clear()
+{
+    replaceContent(std::nullopt);
+}
+
+void CClipboard::addListener(IClipboardListener& listener)
+{
+    listeners_.addObserver(listener);
+    listener.clipboardChanged(*this);
+}
+
+void CClipboard::removeListener(IClipboardListener& listener)
+{
+    listeners_.removeObserver(listener);
+}
+
+void CClipboard::replaceContent(std::optional<Content> content)
+{
+    if (content_ == content)
+        return;
+    content_ = std::move(content);
+    listeners_.notify([this](IClipboardListener& listener) { listener.clipboardChanged(*this); });
+}
+
+} // namespace aec::host

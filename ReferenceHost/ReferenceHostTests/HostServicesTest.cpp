@@ -1,0 +1,119 @@
+#include "HostServices/Clipboard.h"
+#include "HostServices/HostServices.h"
+#include "HostServices/ProxyAppGui.h"
+#include "HostServices/ScriptedDialogService.h"
+#include "HostServices/ScriptedImportFileDialog.h"
+#include "HostServices/Translation.h"
+
+#include "aec/ClipboardFormats.h"
+#include "aec/TextIds.h"
+
+#include "Common/UUID.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace aec::host
+{
+namespace
+{
+
+// Keeps what the project-entity format held at each notification.
+class CContentRecorder final : public IClipboardListener
+{
+public:
+    void clipboardChanged(const IClipboard& clipboard) override
+    {
+        heard.push_back(clipboard.getData(clipboardFormatProjectEntities));
+    }
+
+    std::vector<std::optional<std::wstring>> heard;
+};
+
+TEST(ClipboardTest, ListenersHearOfEveryChangeAndOfTheContentWhenTheyRegister)
+{
+    CClipboard clipboard;
+    clipboard.setData(clipboardFormatProjectEntities, L"first");
+    CContentRecorder recorder;
+    clipboard.addListener(recorder);
+    ASSERT_EQ(recorder.heard, (std::vector<std::optional<std::wstring>>{L"first"}));
+
+    clipboard.setData(clipboardFormatProjectEntities, L"first"); // no change
+    clipboard.setData(clipboardFormatProjectEntities, L"second");
+    constexpr std::uint32_t otherFormat = 1;
+    clipboard.setData(otherFormat, L"text"); // replaces the entities
+    EXPECT_FALSE(clipboard.hasData(clipboardFormatProjectEntities));
+    EXPECT_EQ(clipboard.getData(otherFormat), L"text");
+    clipboard.clear();
+    EXPECT_FALSE(clipboard.hasData(otherFormat));
+    EXPECT_EQ(recorder.heard,
+              (std::vector<std::optional<std::wstring>>{L"first", L"second", std::nullopt, std::nullopt}));
+
+    clipboard.removeListener(recorder);
+    clipboard.setData(clipboardFormatProjectEntities, L"unheard");
+    EXPECT_EQ(recorder.heard.size(), 4u);
+}
+
+TEST(TranslationTest, TextsTakeTheirArgumentAndMissingOnesShowTheirNumber)
+{
+    const CTranslation translation;
+    for (const int id : {11, 42, 43, 44, 54, 55, 56, 57, 58, 59, 144, 145, 1159})
+        EXPECT_NE(translation.getText(id).front(), L'#') << id;
+    EXPECT_EQ(translation.getText(text_ids::editProperties), L"Properties...");
+    EXPECT_EQ(translation.getText(123), L"#123");
+
+    EXPECT_EQ(translation.fillIn(translation.getText(text_ids::deleteOneQuestion), L"Plan {}"),
+              L"Delete \"Plan {}\"?");
+    EXPECT_EQ(translation.fillIn(translation.getText(text_ids::deleteManyQuestion), L"12"), L"Delete 12 entities?");
+    EXPECT_EQ(translation.fillIn(L"{} of {}", L"3"), L"3 of 3");
+    EXPECT_EQ(translation.fillIn(L"Rename", L"3"), L"Rename");
+}
+
+TEST(ScriptedDialogsTest, AnswersComeFromTheQueueThenFromTheDefault)
+{
+    CScriptedDialogService dialogs;
+    dialogs.queueAnswer(DialogAnswer::Yes);
+    dialogs.queueAnswer(DialogAnswer::Cancel);
+    EXPECT_EQ(dialogs.ask(L"Delete", L"Delete \"Plan\"?", dialogButtonsYesNo), DialogAnswer::Yes);
+    EXPECT_EQ(dialogs.ask(L"T2", L"Q2", 1), DialogAnswer::Cancel);
+    EXPECT_EQ(dialogs.ask(L"T3", L"Q3", 2), DialogAnswer::No);
+    dialogs.setDefaultAnswer(DialogAnswer::Ok);
+    EXPECT_EQ(dialogs.ask(L"T4", L"Q4", 3), DialogAnswer::Ok);
+    ASSERT_EQ(dialogs.getQuestions().size(), 4u);
+    EXPECT_EQ(dialogs.getQuestions().front(),
+              (CScriptedDialogService::Question{L"Delete", L"Delete \"Plan\"?", dialogButtonsYesNo}));
+
+    CScriptedImportFileDialog files;
+    files.queueAnswer(L"/tmp/doors.csv");
+    EXPECT_EQ(files.askForFile(), L"/tmp/doors.csv");
+    EXPECT_EQ(files.askForFile(), L"");
+    EXPECT_EQ(files.getAskCount(), 2u);
+}
+
+TEST(ProxyAppGuiTest, EachShownDocumentHasOneUserInterfaceThatCallsTheHost)
+{
+    CHostServices services;
+    CProxyAppGui& application = services.getProxyAppGui();
+    CDocumentGui& gui = application.showDocument(7);
+    EXPECT_EQ(&application.showDocument(7), &gui);
+    EXPECT_EQ(application.getDocumentGui(7), &gui);
+    EXPECT_EQ(application.getDocumentGui(8), nullptr);
+
+    EntityIdList renamed;
+    gui.setEntityCallback([&renamed](const EntityId& entity) { renamed.push_back(entity); });
+    const EntityId plan(common::UUID::create());
+    gui.handleEntity(plan);
+    gui.openEntities({plan, plan});
+    EXPECT_EQ(renamed, EntityIdList{plan});
+    EXPECT_EQ(gui.getHandledEntities(), EntityIdList{plan});
+    EXPECT_EQ(gui.getOpenedEntities(), std::vector<EntityIdList>{(EntityIdList{plan, plan})});
+
+    application.closeDocument(7);
+    EXPECT_EQ(application.getDocumentGui(7), nullptr);
+}
+
+} // namespace
+} // namespace aec::host
