@@ -35,8 +35,8 @@ class IUuidProvider;
 
 // The library's entry points. The host calls them in this order, since each later object keeps
 // references to earlier ones: setUuidProvider; the grouping model factory, the group maker and
-// the entity provider; the explorer factory; the entity controller factory. Every made object belongs to the host, and every
-// reference it is given must outlive it.
+// the entity provider; the explorer factory; the entity controller factory. Every made object
+// belongs to the host, and every reference it is given must outlive it.
 namespace project_explorer
 {
 

@@ -2,28 +2,13 @@
 
 #include "ProjectExplorerLib/ProjectExplorerExports.h"
 
-#include <map>
-
 namespace project_explorer::test
 {
 
 using aec::EntityCollection;
 
-namespace
-{
-
-std::map<int, std::wstring> numberedTexts()
-{
-    std::map<int, std::wstring> texts;
-    for (const int id : {11, 42, 43, 44, 54, 55, 56, 57, 58, 59, 144, 145})
-        texts[id] = L"T" + std::to_wstring(id) + L" {}";
-    return texts;
-}
-
-} // namespace
-
 EntityOperationsFixture::EntityOperationsFixture()
-    : translation(numberedTexts()), topicA(project.addTopic(L"Alpha")), topicB(project.addTopic(L"Beta")),
+    : topicA(project.addTopic(L"Alpha")), topicB(project.addTopic(L"Beta")),
       sheet1(project.addEntity(EntityCollection::Sheets, L"Plan", topicA)),
       sheet2(project.addEntity(EntityCollection::Sheets, L"Section", topicA)),
       table(project.addEntity(EntityCollection::Tables, L"Doors")),
@@ -32,15 +17,23 @@ EntityOperationsFixture::EntityOperationsFixture()
       linkedModel(project.addEntity(EntityCollection::LinkedModels, L"Survey")),
       image(project.addEntity(EntityCollection::Images, L"Logo")), missing(common::UUID::generate())
 {
-    sessions.setCurrentProject(&project);
-    documentGui.documentKey = project.getDocument().getKey();
-    factory = createProjectExplorerEntityControllerFactory(clipboard, documentGui, translation, sessions, dialogs,
-                                                           propertyEditor, dialogs, tableImporter, serializer);
-    controller = factory->createController(classifier, classifier, copyDataBuilder, sheetHandler, tableHandler,
-                                           assemblyHandler, materialHandler, guards, pasteHandler);
+    host.getSessionManager().setCurrentProject(&project);
+    host.getProxyAppGui().showDocument(project.getDocument().getKey());
+    factory = createProjectExplorerEntityControllerFactory(
+        clipboard, host.getProxyAppGui(), host.getTranslation(), host.getSessionManager(),
+        host.getImportFileDialog(), host.getPropertyEditor(), host.getDialogService(),
+        host.getTableImporter(), serializer);
+    controller = factory->createController(
+        services.getClassifier(), services.getEntitySource(), services.getCopyDataBuilder(), sheetHandler,
+        services.getTableHandler(), services.getAssemblyHandler(), services.getMaterialHandler(),
+        services.getOperationGuardSource(), services.getPasteHandler());
 }
 
-EntityOperationsFixture::~EntityOperationsFixture() = default;
+EntityOperationsFixture::~EntityOperationsFixture()
+{
+    project.getDocument().setPropertyContext(nullptr);
+    host.getSessionManager().setCurrentProject(nullptr);
+}
 
 std::vector<std::string> EntityOperationsFixture::undoNames() const
 {
@@ -55,6 +48,16 @@ std::wstring EntityOperationsFixture::nameOf(const aec::EntityId& id) const
 bool EntityOperationsFixture::exists(const aec::EntityId& id) const
 {
     return project.findEntity(id) != nullptr;
+}
+
+aec::host::CDocumentGui& EntityOperationsFixture::documentGui()
+{
+    return *host.getProxyAppGui().getDocumentGui(project.getDocument().getKey());
+}
+
+std::wstring EntityOperationsFixture::text(int textId) const
+{
+    return host.getTranslation().getText(textId);
 }
 
 } // namespace project_explorer::test

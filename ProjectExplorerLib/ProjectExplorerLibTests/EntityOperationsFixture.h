@@ -1,18 +1,16 @@
 #pragma once
 
+#include "FailingServices.h"
 #include "RecordingGui.h"
-#include "TableTranslation.h"
-#include "TestHostServices.h"
 
-#include "AecModel/OperationGuardSource.h"
 #include "AecModel/Project.h"
-#include "AecModel/SessionManager.h"
+#include "AecModel/ProjectServices.h"
+#include "HostServices/HostServices.h"
 
 #include "aec/ProjectExplorerEntityController.h"
 #include "aec/ProjectExplorerEntityControllerFactory.h"
 
 #include <gtest/gtest.h>
-
 #include <memory>
 #include <string>
 #include <vector>
@@ -20,8 +18,9 @@
 namespace project_explorer::test
 {
 
-// A project with two topics and one entity or two of every collection, the host services around
-// it, and an entity controller made through the library's entry point.
+// A project of the reference host with two topics and entities of most collections, shown in a
+// document, the host's services around it, and an entity controller made through the library's
+// entry point. The sheet handler, the paste-data serializer and the clipboard can be made to fail.
 class EntityOperationsFixture : public ::testing::Test
 {
 protected:
@@ -32,25 +31,16 @@ protected:
     std::wstring nameOf(const aec::EntityId& id) const;
     // Whether the entity is in the project now.
     bool exists(const aec::EntityId& id) const;
+    aec::host::CDocumentGui& documentGui();
+    std::wstring text(int textId) const;
 
+    aec::host::CHostServices host;
     aec::model::CProject project;
-    aec::model::CSessionManager sessions;
-    aec::model::COperationGuardSource guards;
-    ModelTypeHandler sheetHandler{project, aec::EntityCollection::Sheets};
-    ModelTypeHandler tableHandler{project, aec::EntityCollection::Tables};
-    ModelTypeHandler assemblyHandler{project, aec::EntityCollection::Assemblies};
-    ModelTypeHandler materialHandler{project, aec::EntityCollection::Materials};
-    CollectionClassifier classifier{project};
-    NameCopyDataBuilder copyDataBuilder{project};
-    LineSerializer serializer;
-    CopyingPasteHandler pasteHandler;
-    MapClipboard clipboard;
-    // Texts "T<number> {}", so that every text shows its number and takes a fill-in.
-    aecapp_tests::TableTranslation translation;
-    ScriptedDialogs dialogs;
-    RecordingDocumentGui documentGui;
-    RecordingPropertyEditor propertyEditor;
-    StemTableImporter tableImporter;
+    aec::model::CProjectServices services{project};
+    FailingTypeHandler sheetHandler{services.getSheetHandler()};
+    FailingSerializer serializer{host.getPasteDataSerializer()};
+    FailingClipboard clipboard{host.getClipboard()};
+    TestPropertyContext propertyContext;
     aecapp_tests::RecordingGui gui;
 
     aec::TopicId topicA;

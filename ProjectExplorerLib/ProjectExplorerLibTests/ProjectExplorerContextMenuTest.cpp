@@ -33,39 +33,40 @@ protected:
     std::vector<aec::CContextMenuItem> itemsOf(const aec::EntityIdSet& selected)
     {
         selection.setSelection(selected);
-        return resolver.resolve(nullptr).front()->getMenuItems(translation);
+        return resolver.resolve(nullptr).front()->getMenuItems(host.getTranslation());
     }
 
     const aec::CContextMenuItem& itemWithText(int textId) const
     {
-        const auto found = std::ranges::find(items, translation.getText(textId), &aec::CContextMenuItem::getText);
+        const auto found = std::ranges::find(items, text(textId), &aec::CContextMenuItem::getText);
         EXPECT_NE(found, items.end());
         return *found;
     }
 
-    std::wstring text(int textId) const { return translation.getText(textId); }
-
     CProjectExplorerEntitySelection selection;
-    CProjectExplorerContextMenuStrategyResolver resolver{*controller, selection, sessions, gui};
+    CProjectExplorerContextMenuStrategyResolver resolver{*controller, selection, host.getSessionManager(),
+                                                         gui};
     std::vector<aec::CContextMenuItem> items;
 };
 
 TEST_F(ContextMenuTest, ItemsFollowTheSelection)
 {
-    const std::wstring open = text(texts::open), rename = text(texts::rename), topics = text(texts::changeTopic);
+    const std::wstring open = text(texts::open), rename = text(texts::rename),
+                       topics = text(texts::changeTopic);
     const std::wstring cut = text(texts::cut), copy = text(texts::copy), paste = text(texts::paste);
     const std::wstring remove = text(texts::deleteItem), edit = text(texts::editProperties);
 
     EXPECT_EQ(menuOf({}), (std::vector<std::wstring>{L"-", cut, copy, paste}));
     EXPECT_FALSE(itemWithText(texts::cut).isEnabled());
-    EXPECT_EQ(menuOf({sheet1}),
-              (std::vector<std::wstring>{open, L"-", rename, L"-", topics, L"-", cut, copy, paste, L"-", remove}));
+    EXPECT_EQ(menuOf({sheet1}), (std::vector<std::wstring>{open, L"-", rename, L"-", topics, L"-", cut, copy,
+                                                           paste, L"-", remove}));
     EXPECT_TRUE(itemWithText(texts::cut).isEnabled());
-    EXPECT_EQ(menuOf({material}), (std::vector<std::wstring>{open, L"-", rename, L"-", topics, L"-", cut, copy,
-                                                             paste, L"-", remove, L"-", edit}));
+    EXPECT_EQ(menuOf({material}), (std::vector<std::wstring>{open, L"-", rename, L"-", topics, L"-", cut,
+                                                             copy, paste, L"-", remove, L"-", edit}));
     EXPECT_EQ(menuOf({sheet1, sheet2}),
               (std::vector<std::wstring>{open, L"-", topics, L"-", cut, copy, paste, L"-", remove}));
-    EXPECT_EQ(menuOf({image}), (std::vector<std::wstring>{open, L"-", cut, copy, paste, L"-", remove, L"-", edit}));
+    EXPECT_EQ(menuOf({image}),
+              (std::vector<std::wstring>{open, L"-", cut, copy, paste, L"-", remove, L"-", edit}));
     // One entity outside the explorer types takes the submenu away from the whole selection.
     EXPECT_EQ(std::ranges::count(menuOf({sheet1, image}), topics), 0);
 }
@@ -78,8 +79,8 @@ TEST_F(ContextMenuTest, OwnItemsActOnTheSelectedEntities)
     EXPECT_TRUE(rename.isEnabled());
     rename.run();
     itemWithText(texts::open).run();
-    EXPECT_EQ(documentGui.handled, aec::EntityIdList{sheet1});
-    EXPECT_EQ(documentGui.opened, std::vector<aec::EntityIdList>{aec::EntityIdList{sheet1}});
+    EXPECT_EQ(documentGui().getHandledEntities(), aec::EntityIdList{sheet1});
+    EXPECT_EQ(documentGui().getOpenedEntities(), std::vector<aec::EntityIdList>{aec::EntityIdList{sheet1}});
 
     const std::vector<aec::CContextMenuItem>& topics = itemWithText(texts::changeTopic).getSubItems();
     ASSERT_EQ(topics.size(), 2u);
@@ -103,7 +104,8 @@ TEST_F(ContextMenuTest, AProjectWithoutTopicsStillShowsTheSubmenu)
 
 TEST_F(ContextMenuTest, ResolverMakesTheExplorersItemsThenTheExtraOnes)
 {
-    const auto extra = std::make_shared<aec::composite_menu_item_provider_details::CSeparatorMenuItemProvider>();
+    const auto extra =
+        std::make_shared<aec::composite_menu_item_provider_details::CSeparatorMenuItemProvider>();
 
     const aec::ContextMenuStrategy strategy = resolver.resolve(extra);
 

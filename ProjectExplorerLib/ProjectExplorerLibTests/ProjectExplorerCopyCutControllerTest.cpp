@@ -67,12 +67,12 @@ TEST_F(CopyCutControllerTest, StartsFromTheCurrentSelectionAndLetsGoOfTheCommand
     selection.setSelection({material});
     copyCut.emplace(gui, *controller, selection);
     EXPECT_TRUE(copyEnabled());
-    EXPECT_EQ(gui.commandHandlers.size(), 2u);
+    EXPECT_EQ(gui.handlers.size(), 2u);
 
     copyCut.reset();
     EXPECT_FALSE(copyEnabled());
     EXPECT_FALSE(cutEnabled());
-    EXPECT_TRUE(gui.commandHandlers.empty());
+    EXPECT_TRUE(gui.handlers.empty());
     // The destroyed controller no longer listens.
     selection.setSelection({sheet1});
     EXPECT_FALSE(copyEnabled());
