@@ -1,5 +1,6 @@
 #include "ProjectExplorerLib/ProjectExplorerExports.h"
 
+#include "ProjectExplorerLib/ProjectExplorerEntityControllerFactory.h"
 #include "ProjectExplorerLib/ProjectExplorerEntityProvider.h"
 #include "ProjectExplorerLib/ProjectExplorerFactory.h"
 #include "ProjectExplorerLib/ProjectExplorerGroupMaker.h"
@@ -39,6 +40,21 @@ std::unique_ptr<aec::IProjectExplorerEntityProvider>
 createProjectExplorerEntityProvider(const aec::IProjectSessionManager& sessionManager)
 {
     return std::make_unique<CProjectExplorerEntityProvider>(sessionManager);
+}
+
+std::unique_ptr<aec::IProjectExplorerEntityControllerFactory>
+createProjectExplorerEntityControllerFactory(aec::IClipboard& clipboard, aec::IProxyAppGui& proxyAppGui,
+                                             const aec::ITranslation& translation,
+                                             const aec::IProjectSessionManager& sessionManager,
+                                             const aec::IImportFileDialog& importFileDialog,
+                                             aec::IPropertyContainerEditor& propertyEditor,
+                                             const aec::IGeneralPurposeDialogService& dialogService,
+                                             const aec::ITitleBlockIO& titleBlockIO,
+                                             aec::serialization::IProjectEntityPasteDataSessionSerializer& serializer)
+{
+    return std::make_unique<ProjectExplorerEntityControllerFactory>(clipboard, proxyAppGui, translation,
+                                                                    sessionManager, importFileDialog, propertyEditor,
+                                                                    dialogService, titleBlockIO, serializer);
 }
 
 void setUuidProvider(std::shared_ptr<common::IUuidProvider> provider)

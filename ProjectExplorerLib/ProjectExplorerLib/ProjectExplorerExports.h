@@ -7,13 +7,25 @@
 namespace aec
 {
 class IAttributeValueFormatter;
+class IClipboard;
+class IGeneralPurposeDialogService;
+class IImportFileDialog;
 class IProjectExplorer;
+class IProjectExplorerEntityControllerFactory;
 class IProjectExplorerEntityProvider;
 class IProjectExplorerFactory;
 class IProjectExplorerGroupMaker;
 class IProjectExplorerGroupingModelFactory;
 class IProjectExplorerStateMonitor;
 class IProjectSessionManager;
+class IPropertyContainerEditor;
+class IProxyAppGui;
+class ITitleBlockIO;
+class ITranslation;
+namespace serialization
+{
+class IProjectEntityPasteDataSessionSerializer;
+} // namespace serialization
 } // namespace aec
 
 namespace common
@@ -23,8 +35,8 @@ class IUuidProvider;
 
 // The library's entry points. The host calls them in this order, since each later object keeps
 // references to earlier ones: setUuidProvider; the grouping model factory, the group maker and
-// the entity provider; the explorer factory. Every made object belongs to the host, and every
-// reference it is given must outlive it.
+// the entity provider; the explorer factory; the entity controller factory. Every made object
+// belongs to the host, and every reference it is given must outlive it.
 namespace project_explorer
 {
 
@@ -43,6 +55,16 @@ createProjectExplorerStateMonitor(const aec::IProjectExplorer& explorer);
 
 PROJECT_EXPLORER_API std::unique_ptr<aec::IProjectExplorerEntityProvider>
 createProjectExplorerEntityProvider(const aec::IProjectSessionManager& sessionManager);
+
+PROJECT_EXPLORER_API std::unique_ptr<aec::IProjectExplorerEntityControllerFactory>
+createProjectExplorerEntityControllerFactory(aec::IClipboard& clipboard, aec::IProxyAppGui& proxyAppGui,
+                                             const aec::ITranslation& translation,
+                                             const aec::IProjectSessionManager& sessionManager,
+                                             const aec::IImportFileDialog& importFileDialog,
+                                             aec::IPropertyContainerEditor& propertyEditor,
+                                             const aec::IGeneralPurposeDialogService& dialogService,
+                                             const aec::ITitleBlockIO& titleBlockIO,
+                                             aec::serialization::IProjectEntityPasteDataSessionSerializer& serializer);
 
 // Every identifier the library makes from now on comes from `provider`; an empty pointer goes
 // back to the platform's generator.

@@ -6,7 +6,8 @@ set(entryPoints
     createProjectExplorerEntityProvider createProjectExplorerEntityControllerFactory setUuidProvider)
 set(requiredEntryPoints
     createGroupingModelFactory createGroupMaker createProjectExplorerFactory
-    createProjectExplorerStateMonitor createProjectExplorerEntityProvider setUuidProvider)
+    createProjectExplorerStateMonitor createProjectExplorerEntityProvider
+    createProjectExplorerEntityControllerFactory setUuidProvider)
 
 execute_process(COMMAND nm -D --defined-only --demangle ${LIBRARY}
                 OUTPUT_VARIABLE symbols RESULT_VARIABLE status)

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "FailingServices.h"
+#include "RecordingGui.h"
+
+#include "AecModel/Project.h"
+#include "AecModel/ProjectServices.h"
+#include "HostServices/HostServices.h"
+
+#include "aec/ProjectExplorerEntityController.h"
+#include "aec/ProjectExplorerEntityControllerFactory.h"
+
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace project_explorer::test
+{
+
+// A project of the reference host with two topics and entities of most collections, shown in a
+// document, the host's services around it, and an entity controller made through the library's
+// entry point. The sheet handler, the paste-data serializer and the clipboard can be made to fail.
+class EntityOperationsFixture : public ::testing::Test
+{
+protected:
+    EntityOperationsFixture();
+    ~EntityOperationsFixture() override;
+
+    std::vector<std::string> undoNames() const;
+    std::wstring nameOf(const aec::EntityId& id) const;
+    // Whether the entity is in the project now.
+    bool exists(const aec::EntityId& id) const;
+    aec::host::CDocumentGui& documentGui();
+    std::wstring text(int textId) const;
+
+    aec::host::CHostServices host;
+    aec::model::CProject project;
+    aec::model::CProjectServices services{project};
+    FailingTypeHandler sheetHandler{services.getSheetHandler()};
+    FailingSerializer serializer{host.getPasteDataSerializer()};
+    FailingClipboard clipboard{host.getClipboard()};
+    TestPropertyContext propertyContext;
+    aecapp_tests::RecordingGui gui;
+
+    aec::TopicId topicA;
+    aec::TopicId topicB;
+    aec::EntityId sheet1;
+    aec::EntityId sheet2;
+    aec::EntityId table;
+    aec::EntityId material;
+    aec::EntityId doorStyle;
+    aec::EntityId linkedModel;
+    aec::EntityId image;
+    aec::EntityId missing;
+
+    std::unique_ptr<aec::IProjectExplorerEntityControllerFactory> factory;
+    std::unique_ptr<aec::IProjectExplorerEntityController> controller;
+};
+
+} // namespace project_explorer::test

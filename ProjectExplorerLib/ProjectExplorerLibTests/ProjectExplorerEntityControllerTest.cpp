@@ -1,0 +1,355 @@
+#include "EntityOperationsFixture.h"
+#include "ViolationSite.h"
+
+#include "ProjectExplorerLib/ProjectExplorerCopierToClipboard.h"
+#include "ProjectExplorerLib/ProjectExplorerExports.h"
+
+#include "AecModel/EditingService.h"
+
+#include "aec/ClipboardFormats.h"
+#include "aec/EntityTypes.h"
+#include "aec/ObjectEvents.h"
+#include "aec/ProjectExplorer.h"
+#include "aec/ProjectExplorerEntityProvider.h"
+#include "aec/ProjectExplorerFactory.h"
+#include "aec/ProjectExplorerGroup.h"
+#include "aec/ProjectExplorerGroupMaker.h"
+#include "aec/ProjectExplorerGroupingModel.h"
+#include "aec/ProjectExplorerGroupingModelFactory.h"
+#include "aec/ProjectExplorerSubgroup.h"
+#include "aec/TextIds.h"
+
+#include "Common/AssertionViolation.h"
+#include "Common/Exception.h"
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+
+namespace project_explorer::test
+{
+namespace
+{
+
+namespace types = aec::entity_types;
+
+constexpr const char* controllerFile =
+    "ProjectExplorerLib/ProjectExplorerLib/ProjectExplorerEntityController.cpp";
+const std::string removeStep = "Remove entities from project explorer";
+
+using EntityControllerTest = EntityOperationsFixture;
+
+TEST_F(EntityControllerTest, CreateWritesAGeneratedIdentifierBackAndKeepsAGivenOne)
+{
+    aec::EntityId generated;
+    controller->createEntity(types::sheet(), generated);
+    const aec::EntityId given(common::UUID::generate());
+    aec::EntityId used = given;
+    controller->createEntity(types::material(), used);
+
+    ASSERT_FALSE(generated.isNull());
+    EXPECT_EQ(project.findEntity(generated)->getType(), types::sheet());
+    EXPECT_EQ(used, given);
+    EXPECT_EQ(project.findEntity(given)->getType(), types::material());
+    EXPECT_EQ(undoNames(),
+              (std::vector<std::string>{"Create entity with type " + types::material().toString(),
+                                        "Create entity with type " + types::sheet().toString()}));
+}
+
+TEST_F(EntityControllerTest, RenamesHandledTypesInANamedStepAndStylesThroughTheEditingService)
+{
+    controller->renameEntity(sheet1, L"Ground floor");
+    controller->renameEntity(doorStyle, L"Double leaf");
+
+    EXPECT_EQ(nameOf(sheet1), L"Ground floor");
+    EXPECT_EQ(nameOf(doorStyle), L"Double leaf");
+    EXPECT_EQ(undoNames(),
+              (std::vector<std::string>{std::string(aec::model::CEditingService::stepName),
+                                        "Rename entity with type " + types::sheet().toString()}));
+    ASSERT_TRUE(project.getChangeOrigin());
+    EXPECT_EQ(project.getChangeOrigin()->file, controllerFile);
+}
+
+TEST_F(EntityControllerTest, DeleteAsksFirstAndRemovesOnlyOnYes)
+{
+    aec::host::CScriptedDialogService& dialogs = host.getDialogService();
+    dialogs.queueAnswer(aec::DialogAnswer::No);
+    controller->deleteWithConfirmation({sheet1});
+    EXPECT_TRUE(exists(sheet1));
+
+    dialogs.queueAnswer(aec::DialogAnswer::Yes);
+    controller->deleteWithConfirmation({sheet1, doorStyle, missing, sheet2});
+
+    const aec::ITranslation& translation = host.getTranslation();
+    const std::wstring title = text(aec::text_ids::deleteTitle);
+    EXPECT_EQ(dialogs.getQuestions(),
+              (std::vector<aec::host::CScriptedDialogService::Question>{
+                  {title, translation.fillIn(text(aec::text_ids::deleteOneQuestion), L"Plan"),
+                   aec::dialogButtonsYesNo},
+                  {title, translation.fillIn(text(aec::text_ids::deleteManyQuestion), L"2"),
+                   aec::dialogButtonsYesNo}}));
+    EXPECT_FALSE(exists(sheet1));
+    EXPECT_FALSE(exists(sheet2));
+    EXPECT_TRUE(exists(doorStyle));
+    EXPECT_EQ(undoNames(), std::vector<std::string>{removeStep});
+}
+
+TEST_F(EntityControllerTest, DeleteOfNothingDeletableAsksNothing)
+{
+    controller->deleteWithConfirmation({doorStyle, image, missing});
+    controller->deleteWithConfirmation({});
+
+    EXPECT_TRUE(host.getDialogService().getQuestions().empty());
+    EXPECT_TRUE(undoNames().empty());
+}
+
+TEST_F(EntityControllerTest, CopyThenPasteMakesNewEntitiesWhileTheDocumentStopsFollowing)
+{
+    // The linked model cannot be copied and the missing entity is gone: both are left out.
+    controller->copy({sheet1, linkedModel, image, missing});
+    EXPECT_TRUE(undoNames().empty());
+    ASSERT_TRUE(clipboard.hasData(aec::clipboardFormatProjectEntities));
+    std::vector<bool> followingWhilePasting;
+    serializer.whileDecoding = [&]
+    {
+        followingWhilePasting.push_back(documentGui().isFollowingChanges());
+    };
+
+    controller->paste();
+
+    const aec::EntityIdList sheets = project.getEntities(aec::EntityCollection::Sheets);
+    ASSERT_EQ(sheets.size(), 3u);
+    EXPECT_EQ(nameOf(sheets.back()), L"Plan (2)");
+    EXPECT_EQ(nameOf(project.getEntities(aec::EntityCollection::Images).back()), L"Logo (2)");
+    EXPECT_EQ(project.getEntities(aec::EntityCollection::LinkedModels).size(), 1u);
+    EXPECT_EQ(undoNames(), std::vector<std::string>{"Paste entities from clipboard to project explorer"});
+    EXPECT_EQ(followingWhilePasting, std::vector<bool>{false});
+    EXPECT_TRUE(documentGui().isFollowingChanges());
+}
+
+TEST_F(EntityControllerTest, CutRemovesTheEntitiesInOneUndoStepAndTheyCanBePastedBack)
+{
+    controller->cut({sheet1, sheet2, doorStyle});
+    EXPECT_FALSE(exists(sheet1));
+    EXPECT_FALSE(exists(sheet2));
+    EXPECT_TRUE(exists(doorStyle));
+    EXPECT_EQ(undoNames(), std::vector<std::string>{removeStep});
+
+    project.getUndoHistory().undo();
+    EXPECT_TRUE(exists(sheet1));
+    EXPECT_TRUE(exists(sheet2));
+
+    controller->paste();
+    EXPECT_EQ(project.getEntities(aec::EntityCollection::Sheets).size(), 4u);
+    EXPECT_EQ(project.getEntities(aec::EntityCollection::DoorStyles).size(), 1u);
+}
+
+// Counts the project's object events and, given an explorer, rebuilds every group on each, as the
+// explorer's panel does.
+class RegroupingPanel : public aec::IObjectEvents
+{
+public:
+    RegroupingPanel(aec::model::CProject& project, aec::IProjectExplorer* explorer)
+        : project_(project), explorer_(explorer)
+    {
+        project_.getObjectEvents().addObserver(*this);
+    }
+    ~RegroupingPanel() override { project_.getObjectEvents().removeObserver(*this); }
+
+    void onProjectOpened() override {}
+    void onObjectsChanged(std::uint32_t, std::uint32_t, const aec::EntityIdSet&,
+                          const aec::EntityIdSet&) override
+    {
+        ++events;
+        if (explorer_ != nullptr)
+            for (aec::IProjectExplorerGroup& group : explorer_->getGroups())
+                group.rebuild();
+    }
+    void onProjectClosing() override {}
+
+    int events = 0;
+
+private:
+    aec::model::CProject& project_;
+    aec::IProjectExplorer* explorer_;
+};
+
+std::map<std::wstring, aec::EntityIdSet> subgroupsOf(const aec::IProjectExplorerGroup& group)
+{
+    std::map<std::wstring, aec::EntityIdSet> subgroups;
+    for (const aec::IProjectExplorerSubgroup& subgroup : group.getSubgroups())
+        subgroups[subgroup.getName()] =
+            aec::EntityIdSet(subgroup.getEntities().begin(), subgroup.getEntities().end());
+    return subgroups;
+}
+
+TEST_F(EntityControllerTest, ChangeTopicRegroupsTheEntitiesAfterOneNotification)
+{
+    const auto modelFactory = createGroupingModelFactory();
+    const auto groupMaker = createGroupMaker(host.getAttributeValueFormatter(), host.getSessionManager());
+    const auto entityProvider = createProjectExplorerEntityProvider(host.getSessionManager());
+    const auto explorerFactory = createProjectExplorerFactory(*modelFactory, *groupMaker, *entityProvider);
+    const auto explorer =
+        explorerFactory->createProjectExplorer(project.getPreferences(), project, host.getPropertyCatalog());
+    aec::IProjectExplorerGroup& sheets = *explorer->getGroups().begin();
+    sheets.getGroupingModel().setGroupingKey(aec::PropertyAssignmentKey::topic());
+    RegroupingPanel panel(project, explorer.get());
+
+    controller->changeTopic({sheet1}, topicB);
+
+    EXPECT_EQ(panel.events, 1);
+    EXPECT_EQ(subgroupsOf(sheets),
+              (std::map<std::wstring, aec::EntityIdSet>{{L"Alpha", {sheet2}}, {L"Beta", {sheet1}}}));
+    EXPECT_EQ(undoNames(), std::vector<std::string>{"Change entities topic"});
+}
+
+TEST_F(EntityControllerTest, PropertyEditingAndTopicChangeFollowTheTypeLists)
+{
+    const aec::EntityId topic(topicA.uuid());
+    EXPECT_FALSE(controller->canEditProperties({}));
+    EXPECT_FALSE(controller->canEditProperties({missing, material}));
+    EXPECT_FALSE(controller->canEditProperties({sheet1}));
+    EXPECT_FALSE(controller->canEditProperties({table, material}));
+    EXPECT_TRUE(controller->canEditProperties({material, sheet1}));
+    EXPECT_TRUE(controller->canEditProperties({doorStyle}));
+    EXPECT_TRUE(controller->canEditProperties({topic}));
+    EXPECT_TRUE(controller->canEditProperties({linkedModel}));
+    EXPECT_TRUE(controller->canEditProperties({image}));
+
+    EXPECT_FALSE(controller->canChangeTopic({}));
+    EXPECT_TRUE(controller->canChangeTopic({sheet1, table, material, doorStyle}));
+    EXPECT_FALSE(controller->canChangeTopic({sheet1, image}));
+    EXPECT_FALSE(controller->canChangeTopic({sheet1, topic}));
+    EXPECT_FALSE(controller->canChangeTopic({sheet1, missing}));
+}
+
+TEST_F(EntityControllerTest, EditPropertiesNeedsThePropertyContextAndItsOwner)
+{
+    const aec::host::CPropertyContainerEditor& editor = host.getPropertyEditor();
+    controller->editProperties({sheet1});
+    EXPECT_EQ(editor.getRequestCount(), 0u);
+
+    project.getDocument().setPropertyContext(&propertyContext);
+    controller->editProperties({material, sheet1, material});
+    ASSERT_EQ(editor.getRequestCount(), 1u);
+    EXPECT_EQ(editor.getLastRequest()->owner, &propertyContext);
+    EXPECT_EQ(editor.getLastRequest()->entities, (aec::EntityIdSet{material, sheet1}));
+
+    propertyContext.owner = nullptr;
+    const std::string ownerSite =
+        violationSite<common::ECheckViolation>([this] { controller->editProperties({sheet1}); });
+    host.getProxyAppGui().closeDocument(project.getDocument().getKey());
+    const std::string guiSite =
+        violationSite<common::ECheckViolation>([this] { controller->forwardToGuiHandler(sheet1); });
+    EXPECT_EQ(siteFile(ownerSite), controllerFile);
+    EXPECT_EQ(siteFile(guiSite), controllerFile);
+    EXPECT_NE(ownerSite, guiSite);
+}
+
+TEST_F(EntityControllerTest, OpenAndForwardReachTheDocumentUserInterface)
+{
+    controller->open({sheet1, table});
+    controller->forwardToGuiHandler(material);
+    EXPECT_EQ(documentGui().getOpenedEntities(),
+              std::vector<aec::EntityIdList>{(aec::EntityIdList{sheet1, table})});
+    EXPECT_EQ(documentGui().getHandledEntities(), aec::EntityIdList{material});
+
+    // Without a document user interface there is nowhere to open them.
+    host.getProxyAppGui().closeDocument(project.getDocument().getKey());
+    controller->open({sheet2});
+}
+
+TEST_F(EntityControllerTest, ImportAddsTheTableUnlessTheUserCancels)
+{
+    controller->importTableFromFile();
+    EXPECT_TRUE(undoNames().empty());
+
+    const std::filesystem::path folder =
+        std::filesystem::temp_directory_path() / common::UUID::generate().toString();
+    std::filesystem::create_directories(folder);
+    std::ofstream(folder / "Windows.csv") << "Mark,Width\nW1,1200\n";
+    host.getImportFileDialog().queueAnswer((folder / "Windows.csv").wstring());
+    controller->importTableFromFile();
+    std::filesystem::remove_all(folder);
+
+    EXPECT_EQ(host.getImportFileDialog().getAskCount(), 2u);
+    EXPECT_EQ(nameOf(project.getEntities(aec::EntityCollection::Tables).back()), L"Windows");
+    EXPECT_EQ(undoNames(), std::vector<std::string>{"Import table from file"});
+}
+
+TEST_F(EntityControllerTest, AFailingServiceLeavesProjectAndHistoryAsTheyWere)
+{
+    host.getDialogService().setDefaultAnswer(aec::DialogAnswer::Yes);
+    controller->copy({sheet1});
+    controller->renameEntity(table, L"Door list");
+    RegroupingPanel events(project, nullptr);
+    const std::string dump = project.canonicalDump();
+    const std::vector<std::string> history = undoNames();
+    const auto expectUnchangedAfter = [&](const auto& action)
+    {
+        EXPECT_THROW(action(), common::EException);
+        EXPECT_EQ(project.canonicalDump(), dump);
+        EXPECT_EQ(undoNames(), history);
+    };
+
+    // The sheet handler fails after the table is gone and the sheet removed.
+    sheetHandler.failing = true;
+    expectUnchangedAfter([this] { controller->deleteWithConfirmation({table, sheet1}); });
+    expectUnchangedAfter(
+        [this]
+        {
+            aec::EntityId id;
+            controller->createEntity(types::sheet(), id);
+        });
+    sheetHandler.failing = false;
+
+    serializer.failing = true;
+    expectUnchangedAfter([this] { controller->paste(); });
+    EXPECT_TRUE(documentGui().isFollowingChanges());
+    serializer.failing = false;
+
+    clipboard.failing = true;
+    expectUnchangedAfter([this] { controller->cut({sheet2}); });
+    clipboard.failing = false;
+    host.getClipboard().clear();
+    expectUnchangedAfter([this] { controller->paste(); });
+    expectUnchangedAfter([this] { controller->changeTopic({sheet1, linkedModel}, topicB); });
+
+    // The guard and the notification batch were let go: the next change runs and is reported.
+    events.events = 0;
+    controller->deleteWithConfirmation({table});
+    EXPECT_FALSE(exists(table));
+    EXPECT_EQ(events.events, 1);
+}
+
+TEST_F(EntityControllerTest, ContractBreachesNameTheirSites)
+{
+    aec::EntityId id;
+    const std::string createSite =
+        violationSite<common::ENotImplemented>([&] { controller->createEntity(types::doorStyle(), id); });
+    EXPECT_EQ(siteFile(createSite), controllerFile);
+    EXPECT_TRUE(undoNames().empty());
+
+    const std::string swappedSite = violationSite<common::EPreconditionViolation>(
+        [this]
+        {
+            factory->createController(services.getClassifier(), services.getEntitySource(),
+                                      services.getCopyDataBuilder(), services.getTableHandler(), sheetHandler,
+                                      services.getAssemblyHandler(), services.getMaterialHandler(),
+                                      services.getOperationGuardSource(), services.getPasteHandler());
+        });
+    EXPECT_EQ(siteFile(swappedSite), controllerFile);
+
+    // Copying what the copy format has no place for is refused before the clipboard is touched.
+    const CProjectExplorerCopierToClipboard copier(clipboard, services.getClassifier(),
+                                                   services.getEntitySource(), services.getCopyDataBuilder(),
+                                                   serializer);
+    const std::string copySite =
+        violationSite<common::ENotImplemented>([&] { copier.copyToClipboard({linkedModel}); });
+    EXPECT_EQ(siteFile(copySite),
+              "ProjectExplorerLib/ProjectExplorerLib/ProjectExplorerCopierToClipboard.cpp");
+    EXPECT_FALSE(clipboard.hasData(aec::clipboardFormatProjectEntities));
+}
+
+} // namespace
+} // namespace project_explorer::test
