@@ -2,7 +2,6 @@
 
 #include "AecApp/CompositeMenuItemProvider.h"
 #include "AecApp/SeparatorMenuItemProvider.h"
-
 #include "Common/Check.h"
 #include "aec/Gui.h"
 
@@ -29,7 +28,8 @@ void CContextMenuProvider::showMenu(const MbCartPoint& point)
     const auto userInput = createUserInputScope();
 
     const ContextMenuStrategy strategy = resolver_->resolve(nullptr);
-    const auto separator = std::make_shared<composite_menu_item_provider_details::CSeparatorMenuItemProvider>();
+    const auto separator =
+        std::make_shared<composite_menu_item_provider_details::CSeparatorMenuItemProvider>();
     std::vector<CCompositeMenuItemProvider::ProviderPtr> parts;
     for (const auto& provider : strategy)
     {

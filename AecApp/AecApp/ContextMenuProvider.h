@@ -1,7 +1,6 @@
 #pragma once
 
 #include "AecApp/AecAppApi.h"
-
 #include "aec/ContextMenu.h"
 #include "aec/ContextMenuStrategyResolver.h"
 #include "aec/MbCartPoint.h"

@@ -1,7 +1,6 @@
 #include "AecApp/CutCopyPasteContextMenuItems.h"
 
 #include "AecApp/StandardMenuItem.h"
-
 #include "aec/Commands.h"
 #include "aec/Gui.h"
 #include "aec/TextIds.h"
@@ -14,7 +13,8 @@ CCutCopyPasteContextMenuItems::CCutCopyPasteContextMenuItems(IGui& gui, bool sel
 {
 }
 
-std::vector<CContextMenuItem> CCutCopyPasteContextMenuItems::getMenuItems(const ITranslation& translation) const
+std::vector<CContextMenuItem>
+CCutCopyPasteContextMenuItems::getMenuItems(const ITranslation& translation) const
 {
     return {
         makeStandardMenuItem(translation, text_ids::cut, std::string(cutIdentifier),
@@ -22,7 +22,8 @@ std::vector<CContextMenuItem> CCutCopyPasteContextMenuItems::getMenuItems(const 
         makeStandardMenuItem(translation, text_ids::copy, std::string(copyIdentifier),
                              makeCommandAction(gui_, commands::copy), selectionNotEmpty_),
         makeStandardMenuItem(translation, text_ids::paste, std::string(pasteIdentifier),
-                             makeCommandAction(gui_, commands::paste), gui_.isCommandEnabled(commands::paste)),
+                             makeCommandAction(gui_, commands::paste),
+                             gui_.isCommandEnabled(commands::paste)),
     };
 }
 

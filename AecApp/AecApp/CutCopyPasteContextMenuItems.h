@@ -1,7 +1,6 @@
 #pragma once
 
 #include "AecApp/AecAppApi.h"
-
 #include "aec/MenuItemProvider.h"
 
 #include <string_view>

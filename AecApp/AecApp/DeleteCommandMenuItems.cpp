@@ -7,7 +7,8 @@ namespace aec
 {
 
 CDeleteCommandMenuItems::CDeleteCommandMenuItems(IGui& gui, bool enabled)
-    : CSingleCommandMenuItem(gui, text_ids::deleteItem, identifier, commands::deleteSelection, enabled, "delete")
+    : CSingleCommandMenuItem(gui, text_ids::deleteItem, identifier, commands::deleteSelection, enabled,
+                             "delete")
 {
 }
 

@@ -7,7 +7,8 @@ namespace aec
 {
 
 CEditPropertiesMenuItems::CEditPropertiesMenuItems(IGui& gui, bool enabled)
-    : CSingleCommandMenuItem(gui, text_ids::editProperties, identifier, commands::editProperties, enabled, "edit-properties")
+    : CSingleCommandMenuItem(gui, text_ids::editProperties, identifier, commands::editProperties, enabled,
+                             "edit-properties")
 {
 }
 

@@ -24,8 +24,8 @@ CGroupingButtonHandler::CGroupingButtonHandler(std::uint32_t panelId, std::uint3
                                                std::uint32_t sortOrderButtonId, IGui* gui,
                                                const ITranslation& translation,
                                                IProjectExplorerGroupingModel& model)
-    : panelId_(panelId), groupCriterionButtonId_(groupCriterionButtonId), sortOrderButtonId_(sortOrderButtonId),
-      gui_(gui), translation_(translation), model_(model)
+    : panelId_(panelId), groupCriterionButtonId_(groupCriterionButtonId),
+      sortOrderButtonId_(sortOrderButtonId), gui_(gui), translation_(translation), model_(model)
 {
     modelConnection_ = model_.changedSignal().connect([this] { refresh(); });
     COMMON_PRECONDITION(gui_ != nullptr);
@@ -60,7 +60,8 @@ IGui::ButtonCallback CGroupingButtonHandler::groupCriterionHandler()
     {
         // Only the exact "0" means no grouping; any other text, the empty one included, names a
         // criterion, and the model judges it.
-        model_.setGroupingKeyText(value == noGroupingValue ? std::nullopt : std::optional<std::wstring>(value));
+        model_.setGroupingKeyText(value == noGroupingValue ? std::nullopt
+                                                           : std::optional<std::wstring>(value));
         gui_->setButtonValue(panelId_, groupCriterionButtonId_, value, true);
     };
 }

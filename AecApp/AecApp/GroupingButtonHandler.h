@@ -1,11 +1,9 @@
 #pragma once
 
 #include "AecApp/AecAppApi.h"
-
 #include "aec/Gui.h"
 
 #include <boost/signals2/connection.hpp>
-
 #include <cstdint>
 #include <string>
 

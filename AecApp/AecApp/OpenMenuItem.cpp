@@ -1,7 +1,6 @@
 #include "AecApp/OpenMenuItem.h"
 
 #include "AecApp/StandardMenuItem.h"
-
 #include "aec/TextIds.h"
 
 namespace aec

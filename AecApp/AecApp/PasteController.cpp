@@ -7,7 +7,8 @@
 namespace aec
 {
 
-CPasteController::CPasteController(IClipboardListenerRegistry& registry, IGui& gui, std::uint32_t clipboardFormat)
+CPasteController::CPasteController(IClipboardListenerRegistry& registry, IGui& gui,
+                                   std::uint32_t clipboardFormat)
     : registry_(registry), gui_(gui), clipboardFormat_(clipboardFormat)
 {
     gui_.addCommandHandler(commands::paste, 0, [this] { pasteRequested_(); });

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "AecApp/AecAppApi.h"
-
 #include "aec/ClipboardListener.h"
 #include "aec/Signals.h"
 

@@ -5,8 +5,8 @@
 namespace aec
 {
 
-CSingleCommandMenuItem::CSingleCommandMenuItem(IGui& gui, int textId, std::string_view identifier, int command,
-                                               bool enabled, std::string name)
+CSingleCommandMenuItem::CSingleCommandMenuItem(IGui& gui, int textId, std::string_view identifier,
+                                               int command, bool enabled, std::string name)
     : gui_(gui), textId_(textId), identifier_(identifier), command_(command), enabled_(enabled),
       name_(std::move(name))
 {
@@ -14,7 +14,8 @@ CSingleCommandMenuItem::CSingleCommandMenuItem(IGui& gui, int textId, std::strin
 
 std::vector<CContextMenuItem> CSingleCommandMenuItem::getMenuItems(const ITranslation& translation) const
 {
-    return {makeStandardMenuItem(translation, textId_, identifier_, makeCommandAction(gui_, command_), enabled_)};
+    return {
+        makeStandardMenuItem(translation, textId_, identifier_, makeCommandAction(gui_, command_), enabled_)};
 }
 
 std::string CSingleCommandMenuItem::getName() const

@@ -15,7 +15,10 @@ CContextMenuItem makeStandardMenuItem(const ITranslation& translation, int textI
 
 CContextMenuItem::Action makeCommandAction(IGui& gui, int command)
 {
-    return [&gui, command] { gui.runCommand(command); };
+    return [&gui, command]
+    {
+        gui.runCommand(command);
+    };
 }
 
 } // namespace aec

@@ -1,15 +1,10 @@
+#include "AecApp/ContextMenuProvider.h"
+
+#include "Common/AssertionViolation.h"
 #include "FixedMenuItemProvider.h"
 #include "RecordingGui.h"
 #include "TableTranslation.h"
 #include "ViolationMessage.h"
-
-#include "AecApp/ContextMenuProvider.h"
-
-#include "Common/AssertionViolation.h"
-
-#include <boost/signals2/connection.hpp>
-
-#include <gtest/gtest.h>
 
 namespace aecapp_tests
 {
@@ -26,7 +21,6 @@ public:
         : strategy_(std::move(strategy)), log_(log)
     {
     }
-
     int getStrategyKind() const override { return 2; }
     aec::ContextMenuStrategy resolve(const std::shared_ptr<aec::IMenuItemProvider>& extra) const override
     {
@@ -44,60 +38,48 @@ class ContextMenuProviderTest : public ::testing::Test
 protected:
     ContextMenuProviderTest()
     {
-        connections.emplace_back(provider.userInputStartedSignal().connect([this] { log.push_back("started"); }));
-        connections.emplace_back(provider.userInputFinishedSignal().connect([this] { log.push_back("finished"); }));
+        started = provider.userInputStartedSignal().connect([this] { log.push_back("started"); });
+        finished = provider.userInputFinishedSignal().connect([this] { log.push_back("finished"); });
     }
-
     void resolveTo(aec::ContextMenuStrategy strategy)
     {
         provider.setStrategyResolver(std::make_shared<FixedResolver>(std::move(strategy), log));
     }
 
     RecordingGui gui;
-    TableTranslation translation{{}};
+    TableTranslation translation;
     aec::CContextMenuProvider provider{&gui, translation};
     std::vector<std::string> log;
-    std::vector<boost::signals2::scoped_connection> connections;
+    boost::signals2::scoped_connection started;
+    boost::signals2::scoped_connection finished;
 };
 
-TEST_F(ContextMenuProviderTest, DividesTheProvidersBySeparatorsAndShowsThemAtThePoint)
+TEST_F(ContextMenuProviderTest, ShowsTheProvidersDividedBySeparatorsAsUserInput)
 {
-    resolveTo({fixedItems({L"Open"}), fixedItems({L"Cut", L"Copy"}), fixedItems({L"-", L"Delete"}), fixedItems({})});
+    resolveTo({fixedItems({L"Open"}), fixedItems({L"Cut", L"Copy"}), fixedItems({L"-", L"Delete"}),
+               fixedItems({})});
     provider.showMenu({3.0, 4.5});
 
     ASSERT_EQ(gui.shownMenus.size(), 1u);
-    EXPECT_EQ(describe(gui.shownMenus[0].items), (Texts{L"Open", L"-", L"Cut", L"Copy", L"-", L"-", L"Delete"}));
-    EXPECT_EQ(gui.shownMenus[0].point, (aec::MbCartPoint{3.0, 4.5}));
-}
-
-TEST_F(ContextMenuProviderTest, ShowingIsAnnouncedAsUserInputAroundTheRequest)
-{
-    resolveTo({fixedItems({L"Open"})});
-    provider.showMenu({});
+    EXPECT_EQ(describe(gui.shownMenus[0].first),
+              (Texts{L"Open", L"-", L"Cut", L"Copy", L"-", L"-", L"Delete"}));
+    EXPECT_EQ(gui.shownMenus[0].second, (aec::MbCartPoint{3.0, 4.5}));
     EXPECT_EQ(log, (std::vector<std::string>{"started", "resolve", "finished"}));
-    EXPECT_EQ(describe(gui.shownMenus.at(0).items), Texts{L"Open"});
 }
 
-TEST_F(ContextMenuProviderTest, LaterResolverReplacesTheEarlierOne)
-{
-    resolveTo({fixedItems({L"Open"})});
-    resolveTo({fixedItems({L"Paste"})});
-    provider.showMenu({});
-    EXPECT_EQ(describe(gui.shownMenus.at(0).items), Texts{L"Paste"});
-}
-
-TEST_F(ContextMenuProviderTest, WithoutResolverNothingHappens)
+TEST_F(ContextMenuProviderTest, ShowsWithTheLatestResolverOnlyAndNothingWithout)
 {
     provider.showMenu({});
     EXPECT_TRUE(gui.shownMenus.empty());
     EXPECT_TRUE(log.empty());
-}
 
-TEST(ContextMenuProviderConstructionTest, NeedsAGui)
-{
-    const TableTranslation translation({});
-    const auto message =
-        violationMessage<common::EPreconditionViolation>([&] { aec::CContextMenuProvider provider(nullptr, translation); });
+    resolveTo({fixedItems({L"Open"})});
+    resolveTo({fixedItems({L"Paste"})});
+    provider.showMenu({});
+    EXPECT_EQ(describe(gui.shownMenus.at(0).first), Texts{L"Paste"});
+
+    const auto message = violationMessage<common::EPreconditionViolation>(
+        [this] { aec::CContextMenuProvider withoutGui(nullptr, translation); });
     EXPECT_TRUE(isSiteInFile(message, "AecApp/AecApp/ContextMenuProvider.cpp")) << message;
 }
 

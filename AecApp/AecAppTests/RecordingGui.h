@@ -22,43 +22,63 @@ public:
         bool enabled = false;
         friend bool operator==(const ButtonItem&, const ButtonItem&) = default;
     };
-    struct ShownMenu
-    {
-        std::vector<aec::CContextMenuItem> items;
-        aec::MbCartPoint point;
-    };
 
     void setCommandAvailable(int, bool) override {}
     void setCommandClaimed(int, bool) override {}
-    void addCommandHandler(int command, int variant, CommandHandler handler) override;
-    void removeCommandHandler(int command, int variant) override;
+    void addCommandHandler(int command, int, CommandHandler handler) override { handlers[command] = handler; }
+    void removeCommandHandler(int command, int) override { handlers.erase(command); }
     void setContextMenuHandler(ContextMenuHandler) override {}
     void clearContextMenuHandler() override {}
-    void enableCommand(int command, bool enabled) override;
-    bool isCommandEnabled(int command) const override;
-    // Records the command, then runs its handler when one is registered.
-    void runCommand(int command) override;
-    void showContextMenu(const std::vector<aec::CContextMenuItem>& items, const aec::MbCartPoint& point) override;
+    void enableCommand(int command, bool enabled) override { enabledCommands[command] = enabled; }
+    bool isCommandEnabled(int command) const override
+    {
+        return enabledCommands.contains(command) && enabledCommands.at(command);
+    }
+    // Records the command, then runs its handler when one is registered, as the host does.
+    void runCommand(int command) override
+    {
+        commandsRun.push_back(command);
+        if (handlers.contains(command))
+            handlers.at(command)();
+    }
+    void showContextMenu(const std::vector<aec::CContextMenuItem>& items,
+                         const aec::MbCartPoint& point) override
+    {
+        shownMenus.emplace_back(items, point);
+    }
 
-    void resetButtonItems(std::uint32_t panel, std::uint32_t element) override;
+    void resetButtonItems(std::uint32_t panel, std::uint32_t element) override
+    {
+        resets.emplace_back(panel, element);
+        buttonItems.erase({panel, element});
+    }
     void addButtonItem(std::uint32_t panel, std::uint32_t button, const std::wstring& value,
-                       const std::wstring& label, bool enabled) override;
-    void setButtonValue(std::uint32_t panel, std::uint32_t button, const std::wstring& value, bool notify) override;
-    void registerButtonCallback(std::uint32_t panel, std::uint32_t button, ButtonCallback callback) override;
-    void unregisterButtonCallback(std::uint32_t panel, std::uint32_t button) override;
+                       const std::wstring& label, bool enabled) override
+    {
+        buttonItems[{panel, button}].push_back({value, label, enabled});
+    }
+    void setButtonValue(std::uint32_t panel, std::uint32_t button, const std::wstring& value, bool) override
+    {
+        buttonValues[{panel, button}] = value;
+    }
+    void registerButtonCallback(std::uint32_t panel, std::uint32_t button, ButtonCallback callback) override
+    {
+        buttonCallbacks[{panel, button}] = callback;
+    }
+    void unregisterButtonCallback(std::uint32_t panel, std::uint32_t button) override
+    {
+        buttonCallbacks.erase({panel, button});
+    }
 
     void registerDocumentActivated(Notification) override {}
     void registerDocumentClosing(Notification) override {}
     void releaseDocumentActivated() override {}
     void releaseDocumentClosing() override {}
 
-    // Chooses the value of a button as the user would: runs its registered callback.
-    void choose(std::uint32_t panel, std::uint32_t button, const std::wstring& value);
-
-    std::map<int, CommandHandler> commandHandlers;
+    std::map<int, CommandHandler> handlers;
     std::map<int, bool> enabledCommands;
     std::vector<int> commandsRun;
-    std::vector<ShownMenu> shownMenus;
+    std::vector<std::pair<std::vector<aec::CContextMenuItem>, aec::MbCartPoint>> shownMenus;
     std::vector<Element> resets;
     std::map<Element, std::vector<ButtonItem>> buttonItems;
     std::map<Element, std::wstring> buttonValues;

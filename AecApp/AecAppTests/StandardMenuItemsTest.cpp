@@ -1,14 +1,12 @@
-#include "RecordingGui.h"
-#include "TableTranslation.h"
-
 #include "AecApp/CutCopyPasteContextMenuItems.h"
 #include "AecApp/DeleteCommandMenuItems.h"
 #include "AecApp/EditPropertiesMenuItems.h"
 #include "AecApp/OpenMenuItem.h"
 #include "AecApp/SelectAllMenuItems.h"
+#include "RecordingGui.h"
+#include "TableTranslation.h"
 
 #include <gtest/gtest.h>
-
 #include <optional>
 
 namespace aecapp_tests
@@ -27,7 +25,7 @@ struct ExpectedItem
 class StandardMenuItemsTest : public ::testing::Test
 {
 protected:
-    // Checks the provider's items one by one, running each action to see which command it runs.
+    // Checks the items one by one, running each action to see which command it runs.
     void expectItems(const aec::IMenuItemProvider& provider, const std::vector<ExpectedItem>& expected)
     {
         const auto items = provider.getMenuItems(translation);
@@ -38,15 +36,13 @@ protected:
             EXPECT_EQ(items[index].getText(), expected[index].text);
             EXPECT_EQ(items[index].getIdentifier(), expected[index].identifier);
             EXPECT_EQ(items[index].isEnabled(), expected[index].enabled);
-            EXPECT_FALSE(items[index].isSeparator());
-            EXPECT_FALSE(items[index].getFlag());
+            EXPECT_FALSE(items[index].isSeparator() || items[index].getFlag());
             EXPECT_EQ(items[index].getNumber(), 0u);
             EXPECT_TRUE(items[index].getSubItems().empty());
             gui.commandsRun.clear();
             items[index].run();
-            const auto expectedCommands =
-                expected[index].command ? std::vector<int>{*expected[index].command} : std::vector<int>{};
-            EXPECT_EQ(gui.commandsRun, expectedCommands);
+            EXPECT_EQ(gui.commandsRun,
+                      expected[index].command ? std::vector{*expected[index].command} : std::vector<int>{});
         }
     }
 
@@ -62,39 +58,32 @@ protected:
 
 TEST_F(StandardMenuItemsTest, CutAndCopyFollowTheSelectionAndPasteTheHostCommand)
 {
-    gui.enableCommand(85, false);
-    expectItems(aec::CCutCopyPasteContextMenuItems(gui, true),
-                {{L"Cut", "c9856780-1496-481d-a977-04553bcd9fc7", true, 82},
-                 {L"Copy", "2412a4ab-e752-4a97-b6d1-025f87df6476", true, 81},
-                 {L"Paste", "0834841d-0ddc-41e3-a852-326399aa96b5", false, 85}});
-
-    gui.enableCommand(85, true);
-    expectItems(aec::CCutCopyPasteContextMenuItems(gui, false),
-                {{L"Cut", "c9856780-1496-481d-a977-04553bcd9fc7", false, 82},
-                 {L"Copy", "2412a4ab-e752-4a97-b6d1-025f87df6476", false, 81},
-                 {L"Paste", "0834841d-0ddc-41e3-a852-326399aa96b5", true, 85}});
+    for (const bool selectionNotEmpty : {true, false})
+    {
+        gui.enableCommand(85, !selectionNotEmpty);
+        expectItems(aec::CCutCopyPasteContextMenuItems(gui, selectionNotEmpty),
+                    {{L"Cut", "c9856780-1496-481d-a977-04553bcd9fc7", selectionNotEmpty, 82},
+                     {L"Copy", "2412a4ab-e752-4a97-b6d1-025f87df6476", selectionNotEmpty, 81},
+                     {L"Paste", "0834841d-0ddc-41e3-a852-326399aa96b5", !selectionNotEmpty, 85}});
+    }
 }
 
-TEST_F(StandardMenuItemsTest, SingleCommandItemsRunTheirCommand)
+TEST_F(StandardMenuItemsTest, SingleItemFamiliesRunTheirCommandOrAction)
 {
-    expectItems(aec::CSelectAllMenuItems(gui), {{L"Select all", "7BF652D6-61C9-46A1-9447-A4AC9E2A57F7", true, 88}});
-    expectItems(aec::CDeleteCommandMenuItems(gui, true),
-                {{L"Delete", "0207d3e1-9328-428b-997b-a9adb0795393", true, 11}});
-    expectItems(aec::CDeleteCommandMenuItems(gui, false),
-                {{L"Delete", "0207d3e1-9328-428b-997b-a9adb0795393", false, 11}});
-    expectItems(aec::CEditPropertiesMenuItems(gui, true),
-                {{L"Properties", "c2e9237b-133d-40aa-8255-fac432c29c8c", true, 12}});
-    expectItems(aec::CEditPropertiesMenuItems(gui, false),
-                {{L"Properties", "c2e9237b-133d-40aa-8255-fac432c29c8c", false, 12}});
-}
+    expectItems(aec::CSelectAllMenuItems(gui),
+                {{L"Select all", "7BF652D6-61C9-46A1-9447-A4AC9E2A57F7", true, 88}});
+    for (const bool enabled : {true, false})
+    {
+        expectItems(aec::CDeleteCommandMenuItems(gui, enabled),
+                    {{L"Delete", "0207d3e1-9328-428b-997b-a9adb0795393", enabled, 11}});
+        expectItems(aec::CEditPropertiesMenuItems(gui, enabled),
+                    {{L"Properties", "c2e9237b-133d-40aa-8255-fac432c29c8c", enabled, 12}});
+    }
 
-TEST_F(StandardMenuItemsTest, OpenItemRunsTheGivenActionAndNoCommand)
-{
     int opened = 0;
-    expectItems(aec::COpenMenuItem([&opened] { ++opened; }, true),
-                {{L"Open", "5ce2e75f-2844-41bd-b9eb-e76a9e788797", true, std::nullopt}});
-    expectItems(aec::COpenMenuItem([&opened] { ++opened; }, false),
-                {{L"Open", "5ce2e75f-2844-41bd-b9eb-e76a9e788797", false, std::nullopt}});
+    for (const bool enabled : {true, false})
+        expectItems(aec::COpenMenuItem([&opened] { ++opened; }, enabled),
+                    {{L"Open", "5ce2e75f-2844-41bd-b9eb-e76a9e788797", enabled, std::nullopt}});
     EXPECT_EQ(opened, 2);
 }
 

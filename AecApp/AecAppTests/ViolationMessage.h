@@ -1,15 +1,12 @@
 #pragma once
 
 #include <gtest/gtest.h>
-
 #include <string>
-#include <string_view>
 
 namespace aecapp_tests
 {
 
-// The message of the violation that the function throws; an empty text, and a test failure, when
-// it throws none.
+// The message of the violation that the function throws; a test failure when it throws none.
 template <class Violation, class Function>
 std::string violationMessage(Function&& function)
 {
@@ -25,10 +22,10 @@ std::string violationMessage(Function&& function)
     return {};
 }
 
-// Whether the violation message names a check site in the file (a path from the repository root).
-inline bool isSiteInFile(const std::string& message, std::string_view file)
+// Whether the message names a check site in the file (a path from the repository root).
+inline bool isSiteInFile(const std::string& message, const std::string& file)
 {
-    return message.rfind("Assertion violation: " + std::string(file) + "(", 0) == 0;
+    return message.starts_with("Assertion violation: " + file + "(");
 }
 
 } // namespace aecapp_tests
