@@ -1,0 +1,31 @@
+#pragma once
+
+namespace aec
+{
+class IDocumentGui;
+} // namespace aec
+
+namespace project_explorer
+{
+
+// Stops a document's user interface from following project changes while entities are pasted
+// (it would otherwise select and show each new entity as it appears), and gives the flag back as
+// it was, also when the paste fails.
+class CFollowingChangesPause final
+{
+public:
+    // A null user interface makes a pause that does nothing; a set one must outlive the pause.
+    explicit CFollowingChangesPause(aec::IDocumentGui* gui);
+    ~CFollowingChangesPause();
+    CFollowingChangesPause(const CFollowingChangesPause&) = delete;
+    CFollowingChangesPause& operator=(const CFollowingChangesPause&) = delete;
+
+    // Gives the flag back, passing on what the user interface throws. At most once.
+    void end();
+
+private:
+    aec::IDocumentGui* gui_;
+    bool wasFollowing_;
+};
+
+} // namespace project_explorer
