@@ -95,21 +95,23 @@ void CExplorerPanel::onObjectsChanged(std::uint32_t code, std::uint32_t value, c
 
 void CExplorerPanel::toggleGroup(int groupIndex)
 {
+    IProjectExplorerGuiEventHandler& handler = eventHandler();
     const auto userInput = createUserInputScope();
-    changeTree([this, groupIndex] { eventHandler().toggleGroup(groupIndex); });
+    changeTree([&handler, groupIndex] { handler.toggleGroup(groupIndex); });
 }
 
 void CExplorerPanel::toggleSubgroup(int groupIndex, int subgroupIndex)
 {
+    IProjectExplorerGuiEventHandler& handler = eventHandler();
     const auto userInput = createUserInputScope();
-    changeTree([this, groupIndex, subgroupIndex]
-               { eventHandler().toggleSubgroup(groupIndex, subgroupIndex); });
+    changeTree([&handler, groupIndex, subgroupIndex] { handler.toggleSubgroup(groupIndex, subgroupIndex); });
 }
 
 void CExplorerPanel::changeSelection(const EntityIdSet& toAdd, const EntityIdSet& toRemove)
 {
+    IProjectExplorerGuiEventHandler& handler = eventHandler();
     const auto userInput = createUserInputScope();
-    changeTree([this, &toAdd, &toRemove] { eventHandler().onSelectionChanged(toAdd, toRemove); });
+    changeTree([&handler, &toAdd, &toRemove] { handler.onSelectionChanged(toAdd, toRemove); });
 }
 
 bool CExplorerPanel::hasExplorer() const noexcept
