@@ -12,10 +12,15 @@ CGuiProvider::~CGuiProvider() = default;
 
 IProjectExplorerPanel* CGuiProvider::getPanel(IPanelOwner& owner, IHostContext& /*context*/) const
 {
+    return &providePanel(owner);
+}
+
+CExplorerPanel& CGuiProvider::providePanel(IPanelOwner& owner) const
+{
     std::unique_ptr<CExplorerPanel>& panel = panels_[&owner];
     if (panel == nullptr)
         panel = std::make_unique<CExplorerPanel>();
-    return panel.get();
+    return *panel;
 }
 
 CExplorerPanel* CGuiProvider::findPanel(const IPanelOwner& owner) const

@@ -25,6 +25,9 @@ public:
     // Never null. The owner must outlive the panel or release it first.
     IProjectExplorerPanel* getPanel(IPanelOwner& owner, IHostContext& context) const override;
 
+    // The owner's panel, made when it has none yet; the same as getPanel hands out, for a host
+    // that wants the panel before any view is made in it.
+    CExplorerPanel& providePanel(IPanelOwner& owner) const;
     // The owner's panel, or null when none was requested for it.
     CExplorerPanel* findPanel(const IPanelOwner& owner) const;
     // Destroys the owner's panel, which must show no explorer any more; nothing when it has none.
