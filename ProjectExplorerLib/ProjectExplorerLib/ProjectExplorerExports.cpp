@@ -5,7 +5,9 @@
 #include "ProjectExplorerLib/ProjectExplorerFactory.h"
 #include "ProjectExplorerLib/ProjectExplorerGroupMaker.h"
 #include "ProjectExplorerLib/ProjectExplorerGroupingModelFactory.h"
+#include "ProjectExplorerLib/ProjectExplorerGuiEventHandlerFactory.h"
 #include "ProjectExplorerLib/ProjectExplorerStateMonitor.h"
+#include "ProjectExplorerLib/ProjectExplorerViewCreator.h"
 
 #include "Common/UuidProvider.h"
 
@@ -29,6 +31,19 @@ createProjectExplorerFactory(const aec::IProjectExplorerGroupingModelFactory& gr
                              const aec::IProjectExplorerEntityProvider& entityProvider)
 {
     return std::make_unique<CProjectExplorerFactory>(groupingModelFactory, groupMaker, entityProvider);
+}
+
+std::unique_ptr<aec::IProjectExplorerGuiEventHandlerFactory> createProjectExplorerGuiEventHandlerFactory()
+{
+    return std::make_unique<CProjectExplorerGuiEventHandlerFactory>();
+}
+
+std::unique_ptr<aec::IProjectExplorerViewCreator>
+createViewCreator(const aec::IProjectExplorerFactory& explorerFactory,
+                  const aec::IProjectExplorerGuiProvider& panelProvider,
+                  const aec::IProjectExplorerGuiEventHandlerFactory& eventHandlerFactory)
+{
+    return std::make_unique<CProjectExplorerViewCreator>(explorerFactory, panelProvider, eventHandlerFactory);
 }
 
 std::unique_ptr<aec::IProjectExplorerStateMonitor> createProjectExplorerStateMonitor(const aec::IProjectExplorer& explorer)

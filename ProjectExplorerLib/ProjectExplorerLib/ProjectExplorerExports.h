@@ -16,7 +16,10 @@ class IProjectExplorerEntityProvider;
 class IProjectExplorerFactory;
 class IProjectExplorerGroupMaker;
 class IProjectExplorerGroupingModelFactory;
+class IProjectExplorerGuiEventHandlerFactory;
+class IProjectExplorerGuiProvider;
 class IProjectExplorerStateMonitor;
+class IProjectExplorerViewCreator;
 class IProjectSessionManager;
 class IPropertyContainerEditor;
 class IProxyAppGui;
@@ -35,8 +38,9 @@ class IUuidProvider;
 
 // The library's entry points. The host calls them in this order, since each later object keeps
 // references to earlier ones: setUuidProvider; the grouping model factory, the group maker and
-// the entity provider; the explorer factory; the entity controller factory. Every made object
-// belongs to the host, and every reference it is given must outlive it.
+// the entity provider; the explorer factory; the GUI event handler factory and the view creator;
+// the entity controller factory. Every made object belongs to the host, and every reference it is
+// given must outlive it.
 namespace project_explorer
 {
 
@@ -49,6 +53,16 @@ PROJECT_EXPLORER_API std::unique_ptr<aec::IProjectExplorerFactory>
 createProjectExplorerFactory(const aec::IProjectExplorerGroupingModelFactory& groupingModelFactory,
                              const aec::IProjectExplorerGroupMaker& groupMaker,
                              const aec::IProjectExplorerEntityProvider& entityProvider);
+
+PROJECT_EXPLORER_API std::unique_ptr<aec::IProjectExplorerGuiEventHandlerFactory>
+createProjectExplorerGuiEventHandlerFactory();
+
+// The creator asks `explorerFactory` for the explorer of each view it makes, `panelProvider` for
+// the view's panel and `eventHandlerFactory` for the panel's GUI event handler.
+PROJECT_EXPLORER_API std::unique_ptr<aec::IProjectExplorerViewCreator>
+createViewCreator(const aec::IProjectExplorerFactory& explorerFactory,
+                  const aec::IProjectExplorerGuiProvider& panelProvider,
+                  const aec::IProjectExplorerGuiEventHandlerFactory& eventHandlerFactory);
 
 PROJECT_EXPLORER_API std::unique_ptr<aec::IProjectExplorerStateMonitor>
 createProjectExplorerStateMonitor(const aec::IProjectExplorer& explorer);

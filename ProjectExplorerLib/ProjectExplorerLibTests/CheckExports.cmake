@@ -1,13 +1,12 @@
-# Fails unless the library's dynamic symbol table holds its entry points and otherwise only the
-# run-time type information of the host interfaces. Run as: cmake -DLIBRARY=<path> -P CheckExports.cmake
+# Fails unless the library's dynamic symbol table holds its nine entry points, each once, and
+# otherwise only the run-time type information of the host interfaces.
+# Run as: cmake -DLIBRARY=<path> -P CheckExports.cmake
 set(entryPoints
     createViewCreator createGroupingModelFactory createGroupMaker createProjectExplorerFactory
     createProjectExplorerStateMonitor createProjectExplorerGuiEventHandlerFactory
     createProjectExplorerEntityProvider createProjectExplorerEntityControllerFactory setUuidProvider)
-set(requiredEntryPoints
-    createGroupingModelFactory createGroupMaker createProjectExplorerFactory
-    createProjectExplorerStateMonitor createProjectExplorerEntityProvider
-    createProjectExplorerEntityControllerFactory setUuidProvider)
+set(missingEntryPoints ${entryPoints})
+set(exportedEntryPoints)
 
 execute_process(COMMAND nm -D --defined-only --demangle ${LIBRARY}
                 OUTPUT_VARIABLE symbols RESULT_VARIABLE status)
@@ -27,13 +26,19 @@ foreach(line IN LISTS lines)
     if(symbol MATCHES "^project_explorer::([A-Za-z]+)\\(")
         list(FIND entryPoints "${CMAKE_MATCH_1}" index)
         if(index GREATER_EQUAL 0)
-            list(REMOVE_ITEM requiredEntryPoints "${CMAKE_MATCH_1}")
+            list(APPEND exportedEntryPoints "${CMAKE_MATCH_1}")
+            list(REMOVE_ITEM missingEntryPoints "${CMAKE_MATCH_1}")
             continue()
         endif()
     endif()
     message(SEND_ERROR "exported but not an entry point: ${symbol}")
 endforeach()
 
-if(requiredEntryPoints)
-    message(FATAL_ERROR "entry points not exported: ${requiredEntryPoints}")
+if(missingEntryPoints)
+    message(FATAL_ERROR "entry points not exported: ${missingEntryPoints}")
+endif()
+# An overload of an entry point would pass the name test above; the host looks each up by name.
+list(LENGTH exportedEntryPoints exportedCount)
+if(NOT exportedCount EQUAL 9)
+    message(FATAL_ERROR "expected nine exported functions, found ${exportedCount}: ${exportedEntryPoints}")
 endif()

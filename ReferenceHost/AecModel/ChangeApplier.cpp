@@ -36,33 +36,37 @@ public:
 
     void operator()(const EntityRenamed& change) const
     {
-        entity(change.id).assignName(forward_ ? change.after : change.before);
-        notifier_.noteChanged(change.id);
+        CEntity& renamed = entity(change.id);
+        renamed.assignName(forward_ ? change.after : change.before);
+        notifier_.noteChanged(change.id, renamed.getCollection());
     }
 
     void operator()(const EntityTopicChanged& change) const
     {
-        entity(change.id).assignTopic(forward_ ? change.after : change.before);
-        notifier_.noteChanged(change.id);
+        CEntity& retopiced = entity(change.id);
+        retopiced.assignTopic(forward_ ? change.after : change.before);
+        notifier_.noteChanged(change.id, retopiced.getCollection());
     }
 
     void operator()(const EntityPropertyChanged& change) const
     {
-        entity(change.id).assignProperty(change.name, forward_ ? std::optional(change.after) : change.before);
-        notifier_.noteChanged(change.id);
+        CEntity& changed = entity(change.id);
+        changed.assignProperty(change.name, forward_ ? std::optional(change.after) : change.before);
+        notifier_.noteChanged(change.id, changed.getCollection());
     }
 
 private:
     void add(const EntityRecord& record, const std::optional<EntityId>& successor) const
     {
         store_.insert(record, successor);
-        notifier_.noteAdded(record.id);
+        notifier_.noteAdded(record.id, record.collection);
     }
 
     void remove(const EntityId& id) const
     {
+        const EntityCollection collection = entity(id).getCollection();
         store_.erase(id);
-        notifier_.noteRemoved(id);
+        notifier_.noteRemoved(id, collection);
     }
 
     CEntity& entity(const EntityId& id) const

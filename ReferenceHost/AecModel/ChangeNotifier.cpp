@@ -19,29 +19,29 @@ void CChangeNotifier::close()
         flush();
 }
 
-void CChangeNotifier::noteAdded(const EntityId& id)
+void CChangeNotifier::noteAdded(const EntityId& id, EntityCollection collection)
 {
-    const auto [entry, isNew] = pending_.try_emplace(id, Pending::Added);
+    const auto [entry, isNew] = pending_.try_emplace(id, PendingEntity{Pending::Added, collection});
     if (!isNew)
         // Only a removal can come before an addition of the same identifier.
-        entry->second = Pending::Changed;
+        entry->second.kind = Pending::Changed;
 }
 
-void CChangeNotifier::noteChanged(const EntityId& id)
+void CChangeNotifier::noteChanged(const EntityId& id, EntityCollection collection)
 {
     // An entity that observers have not met yet stays "added"; its content is news either way.
-    pending_.try_emplace(id, Pending::Changed);
+    pending_.try_emplace(id, PendingEntity{Pending::Changed, collection});
 }
 
-void CChangeNotifier::noteRemoved(const EntityId& id)
+void CChangeNotifier::noteRemoved(const EntityId& id, EntityCollection collection)
 {
-    const auto [entry, isNew] = pending_.try_emplace(id, Pending::Removed);
+    const auto [entry, isNew] = pending_.try_emplace(id, PendingEntity{Pending::Removed, collection});
     if (isNew)
         return;
-    if (entry->second == Pending::Added)
+    if (entry->second.kind == Pending::Added)
         pending_.erase(entry);
     else
-        entry->second = Pending::Removed;
+        entry->second.kind = Pending::Removed;
 }
 
 void CChangeNotifier::flushUnlessBatched()
@@ -59,10 +59,15 @@ void CChangeNotifier::flush()
     pending_.clear();
     EntityIdSet changed;
     EntityIdSet removed;
-    for (const auto& [id, kind] : pending)
-        (kind == Pending::Removed ? removed : changed).insert(id);
-    observers_.notify([&](IObjectEvents& observer)
-                      { observer.onObjectsChanged(objectEventEntitiesChanged, 0, changed, removed); });
+    std::uint32_t collections = 0;
+    for (const auto& [id, entity] : pending)
+    {
+        (entity.kind == Pending::Removed ? removed : changed).insert(id);
+        collections |= entityCollectionBit(entity.collection);
+    }
+    observers_.notify(
+        [&](IObjectEvents& observer)
+        { observer.onObjectsChanged(objectEventEntitiesChanged, collections, changed, removed); });
 }
 
 } // namespace aec::model

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "aec/ChangeNotificationBatch.h"
+#include "aec/EntityCollection.h"
 #include "aec/EntityId.h"
 #include "aec/ObjectEvents.h"
 
@@ -13,7 +14,8 @@ namespace aec::model
 {
 
 // Collects which entities changed since observers last heard of the project, and tells the
-// project's object-event observers once per batch: (added or changed, removed).
+// project's object-event observers once per batch: (added or changed, removed), with the mask of
+// the collections those entities belong to as the event's value (see aec/ObjectEvents.h).
 //
 // Changes net out against what observers already know: an entity added and removed again before
 // anyone heard of it is not mentioned at all, and one removed and brought back (a rollback) reads
@@ -29,9 +31,10 @@ public:
     void close() override;
     bool isOpen() const noexcept { return depth_ > 0; }
 
-    void noteAdded(const EntityId& id);
-    void noteChanged(const EntityId& id);
-    void noteRemoved(const EntityId& id);
+    // Each note names the collection the entity belongs to; an entity never changes collection.
+    void noteAdded(const EntityId& id, EntityCollection collection);
+    void noteChanged(const EntityId& id, EntityCollection collection);
+    void noteRemoved(const EntityId& id, EntityCollection collection);
 
     // Sends what was collected, unless a batch is open; sends nothing when nothing is left.
     void flushUnlessBatched();
@@ -46,9 +49,15 @@ private:
         Removed,
     };
 
+    struct PendingEntity
+    {
+        Pending kind;
+        EntityCollection collection;
+    };
+
     void flush();
 
-    std::unordered_map<EntityId, Pending> pending_;
+    std::unordered_map<EntityId, PendingEntity> pending_;
     int depth_ = 0;
     common::CObservable<IObjectEvents> observers_;
 };

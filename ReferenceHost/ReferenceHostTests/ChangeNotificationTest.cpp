@@ -126,5 +126,40 @@ TEST_F(ChangeNotificationTest, DirectChangesNotifyAtOnceUnlessBatched)
     expectOneEvent({first}, {third});
 }
 
+TEST_F(ChangeNotificationTest, EventsNameTheCollectionsOfTheEntitiesTheyReport)
+{
+    const TopicId topic = project.addTopic(L"Level 1");
+    const EntityId sheet = project.addEntity(EntityCollection::Sheets, L"Sheet", topic);
+    recorder.events.clear();
+
+    project.renameEntity(first, L"Renamed");
+    ASSERT_EQ(recorder.events.size(), 1u);
+    EXPECT_EQ(recorder.events[0].collections, entityCollectionBit(EntityCollection::Tables));
+    recorder.events.clear();
+
+    { // Removing a topic takes it from the sheet too; the rollback reports both again.
+        auto transaction = project.getTransactionHost().openTransaction("Remove topic");
+        batch().open();
+        project.removeEntity(EntityId(topic.uuid()));
+        batch().close();
+    }
+    const std::uint32_t topicAndSheet =
+        entityCollectionBit(EntityCollection::Topics) | entityCollectionBit(EntityCollection::Sheets);
+    ASSERT_EQ(recorder.events.size(), 2u);
+    EXPECT_EQ(recorder.events[0].removed, EntityIdSet{EntityId(topic.uuid())});
+    EXPECT_EQ(recorder.events[0].collections, topicAndSheet);
+    EXPECT_EQ(recorder.events[1].changed, (EntityIdSet{EntityId(topic.uuid()), sheet}));
+    EXPECT_EQ(recorder.events[1].collections, topicAndSheet);
+    recorder.events.clear();
+
+    // An entity that came and went unseen names no collection.
+    batch().open();
+    project.removeEntity(project.addEntity(EntityCollection::Images, L"Short-lived"));
+    project.removeEntity(second);
+    batch().close();
+    ASSERT_EQ(recorder.events.size(), 1u);
+    EXPECT_EQ(recorder.events[0].collections, entityCollectionBit(EntityCollection::Tables));
+}
+
 } // namespace
 } // namespace aec::model

@@ -17,6 +17,7 @@ public:
     struct Event
     {
         std::uint32_t code;
+        std::uint32_t collections; // the event's value: the mask of the touched collections
         EntityIdSet changed;
         EntityIdSet removed;
     };
@@ -30,10 +31,10 @@ public:
     CObjectEventRecorder& operator=(const CObjectEventRecorder&) = delete;
 
     void onProjectOpened() override {}
-    void onObjectsChanged(std::uint32_t code, std::uint32_t, const EntityIdSet& changed,
+    void onObjectsChanged(std::uint32_t code, std::uint32_t value, const EntityIdSet& changed,
                           const EntityIdSet& removed) override
     {
-        events.push_back(Event{code, changed, removed});
+        events.push_back(Event{code, value, changed, removed});
     }
     void onProjectClosing() override {}
 

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "RecordingEntityController.h"
+#include "RecordingGui.h"
+#include "RecordingPanel.h"
+#include "ViewHostServices.h"
+
+#include "AecModel/AttributeValueFormatter.h"
+#include "AecModel/Project.h"
+#include "AecModel/SessionManager.h"
+
+#include "aec/NonDrawingView.h"
+#include "aec/ProjectExplorerEntityProvider.h"
+#include "aec/ProjectExplorerFactory.h"
+#include "aec/ProjectExplorerGroupMaker.h"
+#include "aec/ProjectExplorerGroupingModelFactory.h"
+#include "aec/ProjectExplorerViewCreator.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string_view>
+
+namespace aec
+{
+class IProjectExplorer;
+class IProjectExplorerGroup;
+} // namespace aec
+
+namespace project_explorer::test
+{
+
+// Views made through the library's entry points over the reference host's sample project, with
+// the real explorer, in a recording panel, bound to a recording GUI.
+class ExplorerViewFixture : public ::testing::Test
+{
+protected:
+    ExplorerViewFixture();
+    ~ExplorerViewFixture() override;
+
+    // A new view over a new explorer, shown in `panel`.
+    std::unique_ptr<aec::INonDrawingView> createView();
+    // A view bound to `gui`, following the clipboard in `registry`.
+    std::unique_ptr<aec::INonDrawingView> createBoundView();
+    // The explorer of the last view made, as the panel shows it.
+    aec::IProjectExplorer& explorer();
+    aec::IProjectExplorerGroup& group(std::wstring_view name);
+    // The identifiers of the first `count` entities of the group's first subgroup.
+    aec::EntityIdSet firstEntities(std::wstring_view groupName, std::size_t count);
+
+    std::unique_ptr<aec::model::CProject> project;
+    aec::model::CSessionManager sessionManager;
+    aec::model::CAttributeValueFormatter formatter{sessionManager};
+    std::unique_ptr<aec::IProjectExplorerGroupingModelFactory> groupingModelFactory;
+    std::unique_ptr<aec::IProjectExplorerGroupMaker> groupMaker;
+    std::unique_ptr<aec::IProjectExplorerEntityProvider> entityProvider;
+    std::unique_ptr<aec::IProjectExplorerFactory> explorerFactory;
+    std::unique_ptr<aec::IProjectExplorerGuiEventHandlerFactory> eventHandlerFactory;
+    RecordingPanel panel;
+    RecordingPanelProvider panelProvider;
+    std::unique_ptr<aec::IProjectExplorerViewCreator> creator;
+    ProjectHostContext hostContext;
+    aec::IPanelOwner panelOwner;
+    NumberedTranslation translation;
+    MapClipboard clipboard;
+    ListenerRegistry registry{clipboard};
+    RecordingEntityController entityController;
+    RecordingGui gui;
+};
+
+} // namespace project_explorer::test

@@ -1,0 +1,187 @@
+#include "ProjectExplorerLib/ProjectExplorer.h"
+#include "ProjectExplorerLib/ProjectExplorerEntitySelection.h"
+#include "ProjectExplorerLib/ProjectExplorerExports.h"
+#include "ProjectExplorerLib/ProjectExplorerView.h"
+
+#include "ExplorerViewFixture.h"
+#include "ViolationSite.h"
+
+#include "aec/Activity.h"
+#include "aec/ProjectExplorer.h"
+#include "aec/ProjectExplorerGroup.h"
+#include "aec/ProjectExplorerGroupingModel.h"
+
+#include "Common/AssertionViolation.h"
+
+#include <set>
+
+namespace project_explorer::test
+{
+namespace
+{
+
+const std::string viewFile = "ProjectExplorerLib/ProjectExplorerLib/ProjectExplorerView.cpp";
+const std::string creatorFile = "ProjectExplorerLib/ProjectExplorerLib/ProjectExplorerViewCreator.cpp";
+
+// Hands out the explorer it was given, once; null when it has none.
+class HandingExplorerFactory final : public aec::IProjectExplorerFactory
+{
+public:
+    std::unique_ptr<aec::IProjectExplorer> createProjectExplorer(aec::IProjectPreferences&,
+                                                                 const aec::IProject&,
+                                                                 const aec::IPropertyCatalog&) const override
+    {
+        return std::move(explorer);
+    }
+
+    mutable std::unique_ptr<aec::IProjectExplorer> explorer;
+};
+
+using ProjectExplorerViewTest = ExplorerViewFixture;
+
+TEST_F(ProjectExplorerViewTest, CreationFailsWithoutPanelOrExplorer)
+{
+    panelProvider.panel = nullptr;
+    const std::string noPanel = violationSite<common::ECheckViolation>([&] { createView(); });
+
+    panelProvider.panel = &panel;
+    const HandingExplorerFactory emptyFactory;
+    const auto emptyCreator = createViewCreator(emptyFactory, panelProvider, *eventHandlerFactory);
+    const std::string noExplorer = violationSite<common::ECheckViolation>(
+        [&]
+        {
+            emptyCreator->createView(panelOwner, hostContext, project->getPreferences(), entityController,
+                                     translation, sessionManager, project->getObjectEvents(), clipboard);
+        });
+
+    EXPECT_EQ(siteFile(noPanel), creatorFile);
+    EXPECT_EQ(siteFile(noExplorer), creatorFile);
+    EXPECT_NE(noPanel, noExplorer);
+    EXPECT_EQ(panel.explorer, nullptr);
+    EXPECT_EQ(panel.eventHandler, nullptr);
+
+    const std::string nullExplorer = violationSite<common::EPreconditionViolation>(
+        [&]
+        {
+            CProjectExplorerView(nullptr, hostContext, panel, translation, entityController, sessionManager,
+                                 project->getObjectEvents(), clipboard);
+        });
+    EXPECT_EQ(siteFile(nullExplorer), viewFile);
+}
+
+TEST_F(ProjectExplorerViewTest, TakesTheGuiOnceNeverNullAndMakesActivitiesOnlyAfterIt)
+{
+    const auto view = createView();
+    view->setClipboardListenerRegistry(&registry);
+
+    const std::string activityWithoutGui =
+        violationSite<common::EPreconditionViolation>([&] { view->createActivity(); });
+    const std::string nullGui = violationSite<common::EPreconditionViolation>([&] { view->setGui(nullptr); });
+    view->setGui(&gui);
+    RecordingGui secondGui;
+    const std::string secondSetGui =
+        violationSite<common::EPreconditionViolation>([&] { view->setGui(&secondGui); });
+
+    for (const std::string& site : {activityWithoutGui, nullGui, secondSetGui})
+        EXPECT_EQ(siteFile(site), viewFile);
+    EXPECT_EQ((std::set{activityWithoutGui, nullGui, secondSetGui}).size(), 3u);
+
+    EXPECT_EQ(gui.documentActivatedRegistrations, 1);
+    EXPECT_EQ(gui.documentClosingRegistrations, 1);
+    EXPECT_TRUE(secondGui.buttonCallbacks.empty());
+    EXPECT_EQ(secondGui.documentActivatedRegistrations, 0);
+    EXPECT_NE(view->createActivity(), nullptr);
+
+    EXPECT_EQ(siteFile(violationSite<common::ENotImplemented>([&] { view->print(); })), viewFile);
+}
+
+TEST_F(ProjectExplorerViewTest, BindsGroupingButtonsOfGroupableGroupsToTheirOwnModels)
+{
+    auto view = createBoundView();
+
+    // The seven groupable groups, two buttons each: criterion and sort order, on the group's panel.
+    ASSERT_EQ(gui.buttonCallbacks.size(), 14u);
+    const std::set<std::pair<std::uint32_t, std::uint32_t>> sheetsAndReinforcement{
+        {840, 847}, {840, 854}, {846, 853}, {846, 860}};
+    for (const auto& button : sheetsAndReinforcement)
+        EXPECT_TRUE(gui.buttonCallbacks.contains(button)) << button.first << "/" << button.second;
+
+    // Tables have the second row: the sort order chosen there is that of the Tables group alone.
+    gui.buttonCallbacks.at({841, 855})(L"2");
+    EXPECT_EQ(group(L"Tables").getGroupingModel().getSortOrder(),
+              aec::IProjectExplorerGroupingModel::descending);
+    EXPECT_EQ(group(L"Sheets").getGroupingModel().getSortOrder(),
+              aec::IProjectExplorerGroupingModel::ascending);
+
+    view.reset();
+    EXPECT_TRUE(gui.buttonCallbacks.empty());
+    EXPECT_EQ(gui.documentActivatedRegistrations, 0);
+    EXPECT_EQ(gui.documentClosingRegistrations, 0);
+}
+
+TEST_F(ProjectExplorerViewTest, GroupsWithoutButtonsStillGetAContextMenu)
+{
+    HandingExplorerFactory factory;
+    factory.explorer =
+        std::make_unique<CProjectExplorer>(std::vector<std::unique_ptr<aec::IProjectExplorerGroup>>{},
+                                           std::make_unique<CProjectExplorerEntitySelection>());
+    const auto view = createViewCreator(factory, panelProvider, *eventHandlerFactory)
+                          ->createView(panelOwner, hostContext, project->getPreferences(), entityController,
+                                       translation, sessionManager, project->getObjectEvents(), clipboard);
+    view->setClipboardListenerRegistry(&registry);
+    view->setGui(&gui);
+
+    EXPECT_TRUE(gui.buttonCallbacks.empty());
+    const auto activity = view->createActivity();
+    gui.requestContextMenu({1.0, 2.0});
+    EXPECT_EQ(gui.shownMenus.size(), 1u);
+}
+
+TEST_F(ProjectExplorerViewTest, ForwardsOnlyEntityChangesWithEntitiesToThePanel)
+{
+    auto view = createView();
+    const aec::EntityId sheet = *firstEntities(L"Sheets", 1).begin();
+    const auto send =
+        [this](std::uint32_t code, const aec::EntityIdSet& changed, const aec::EntityIdSet& removed)
+    {
+        project->getObjectEvents().notify([&](aec::IObjectEvents& observer)
+                                          { observer.onObjectsChanged(code, 7, changed, removed); });
+    };
+
+    project->renameEntity(sheet, L"Renamed sheet");
+    send(aec::objectEventEntitiesChanged, {}, {});
+    send(aec::objectEventEntitiesChanged - 1, {sheet}, {sheet});
+    send(aec::objectEventEntitiesChanged, {}, {sheet});
+
+    ASSERT_EQ(panel.objectsChanged.size(), 2u);
+    EXPECT_EQ(panel.objectsChanged[0].code, aec::objectEventEntitiesChanged);
+    EXPECT_EQ(panel.objectsChanged[0].changed, aec::EntityIdSet{sheet});
+    EXPECT_EQ(panel.objectsChanged[1].value, 7u);
+    EXPECT_EQ(panel.objectsChanged[1].removed, aec::EntityIdSet{sheet});
+
+    view.reset();
+    project->renameEntity(sheet, L"Renamed again");
+    EXPECT_EQ(panel.objectsChanged.size(), 2u);
+}
+
+TEST_F(ProjectExplorerViewTest, AnnouncesUserInputOfThePanelAndOfItsContextMenus)
+{
+    const auto view = createBoundView();
+    int started = 0;
+    int finished = 0;
+    const boost::signals2::scoped_connection startedConnection =
+        view->userInputStartedSignal().connect([&] { ++started; });
+    const boost::signals2::scoped_connection finishedConnection =
+        view->userInputFinishedSignal().connect([&] { ++finished; });
+
+    panel.userInputStartedSignal()();
+    panel.userInputFinishedSignal()();
+    const auto activity = view->createActivity();
+    gui.requestContextMenu({});
+
+    EXPECT_EQ(started, 2);
+    EXPECT_EQ(finished, 2);
+}
+
+} // namespace
+} // namespace project_explorer::test
