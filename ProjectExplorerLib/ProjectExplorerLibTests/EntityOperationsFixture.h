@@ -1,7 +1,7 @@
 #pragma once
 
 #include "FailingServices.h"
-#include "RecordingGui.h"
+#include "AecAppTests/RecordingGui.h"
 
 #include "AecModel/Project.h"
 #include "AecModel/ProjectServices.h"
