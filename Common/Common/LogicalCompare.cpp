@@ -47,9 +47,12 @@ wchar_t foldAsciiCase(wchar_t character) noexcept
 #if defined(__SSE2__)
 static_assert(sizeof(wchar_t) == 4, "the scan compares 32-bit code units");
 
+// The block helpers below are forced inline: GCC keeps them out of line otherwise, and the calls
+// cost a sixth of a comparison of neighbouring names.
+
 // Four code units from `at`, ASCII capitals folded to small letters. The comparisons are signed:
 // code units beyond Unicode are negative and fold to themselves.
-__m128i loadFolded(const wchar_t* at) noexcept
+[[gnu::always_inline]] inline __m128i loadFolded(const wchar_t* at) noexcept
 {
     const __m128i units = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
     const __m128i capital = _mm_and_si128(_mm_cmpgt_epi32(units, _mm_set1_epi32(U'A' - 1)),
@@ -58,13 +61,13 @@ __m128i loadFolded(const wchar_t* at) noexcept
 }
 
 // One bit per byte of four code units, set where left and right match.
-std::uint32_t matchingBytes4(const wchar_t* left, const wchar_t* right) noexcept
+[[gnu::always_inline]] inline std::uint32_t matchingBytes4(const wchar_t* left, const wchar_t* right) noexcept
 {
     return static_cast<std::uint32_t>(
         _mm_movemask_epi8(_mm_cmpeq_epi32(loadFolded(left), loadFolded(right))));
 }
 
-std::uint32_t matchingBytes8(const wchar_t* left, const wchar_t* right) noexcept
+[[gnu::always_inline]] inline std::uint32_t matchingBytes8(const wchar_t* left, const wchar_t* right) noexcept
 {
     return matchingBytes4(left, right) | (matchingBytes4(left + 4, right + 4) << 16);
 }
