@@ -1,8 +1,8 @@
 #include "BimNameGenerator.h"
 
+#include <cwctype>
 #include <fmt/format.h>
 #include <fmt/xchar.h>
-#include <cwctype>
 #include <stdexcept>
 #include <unordered_set>
 
@@ -37,14 +37,16 @@ std::wstring CBimNameGenerator::number(std::size_t maxDigits)
 std::wstring CBimNameGenerator::sheetName()
 {
     static const std::vector<const wchar_t*> disciplines{L"A", L"S", L"M", L"E", L"P", L"L", L"FP"};
-    static const std::vector<const wchar_t*> views{
-        L"Floor Plan", L"Reflected Ceiling Plan", L"Framing Plan", L"Sections", L"Elevations",
-        L"Details",    L"Grundriss",              L"Coupe",        L"Façades",  L"Schnitt"};
+    static const std::vector<const wchar_t*> views{L"Floor Plan",   L"Reflected Ceiling Plan",
+                                                   L"Framing Plan", L"Sections",
+                                                   L"Elevations",   L"Details",
+                                                   L"Grundriss",    L"Coupe",
+                                                   L"Façades",      L"Schnitt"};
     switch (below(3))
     {
     case 0:
-        return fmt::format(L"{}-{}{:02} - {} {}", pick(disciplines), below(9) + 1, below(100),
-                           levelName(), pick(views));
+        return fmt::format(L"{}-{}{:02} - {} {}", pick(disciplines), below(9) + 1, below(100), levelName(),
+                           pick(views));
     case 1:
         return fmt::format(L"Sheet {} - {}", number(4), pick(views));
     default:
@@ -54,8 +56,8 @@ std::wstring CBimNameGenerator::sheetName()
 
 std::wstring CBimNameGenerator::levelName()
 {
-    static const std::vector<const wchar_t*> named{L"Ground Floor", L"Roof",  L"Mezzanine",
-                                                   L"Basement",     L"Attic", L"Erdgeschoss",
+    static const std::vector<const wchar_t*> named{L"Ground Floor",    L"Roof",    L"Mezzanine",
+                                                   L"Basement",        L"Attic",   L"Erdgeschoss",
                                                    L"Rez-de-chaussée", L"Sous-sol"};
     switch (below(4))
     {
@@ -72,8 +74,8 @@ std::wstring CBimNameGenerator::levelName()
 
 std::wstring CBimNameGenerator::doorOrWindowName()
 {
-    static const std::vector<const wchar_t*> kinds{L"Door",   L"Double Door", L"Window",
-                                                   L"Tür",    L"Fenêtre",     L"Sliding Door",
+    static const std::vector<const wchar_t*> kinds{L"Door",    L"Double Door",    L"Window",
+                                                   L"Tür",     L"Fenêtre",        L"Sliding Door",
                                                    L"Fenster", L"Porte coupe-feu"};
     static const std::vector<const wchar_t*> ratings{L"", L" EI30", L" T30", L" T90", L" RC2"};
     const std::size_t width = 600 + 100 * below(15);
@@ -92,10 +94,14 @@ std::wstring CBimNameGenerator::doorOrWindowName()
 
 std::wstring CBimNameGenerator::wallName()
 {
-    static const std::vector<const wchar_t*> kinds{L"Basic Wall: Generic", L"Wall - Exterior - Brick",
-                                                   L"Interior Partition", L"Curtain Wall",
-                                                   L"Mur béton",          L"Außenwand KS",
-                                                   L"Стена",              L"Retaining Wall"};
+    static const std::vector<const wchar_t*> kinds{L"Basic Wall: Generic",
+                                                   L"Wall - Exterior - Brick",
+                                                   L"Interior Partition",
+                                                   L"Curtain Wall",
+                                                   L"Mur béton",
+                                                   L"Außenwand KS",
+                                                   L"Стена",
+                                                   L"Retaining Wall"};
     if (below(2) == 0)
         return fmt::format(L"{} - {}mm", pick(kinds), 50 + 10 * below(40));
     return fmt::format(L"{} {} ({})", pick(kinds), 100 + 25 * below(16), materialName());
@@ -103,13 +109,12 @@ std::wstring CBimNameGenerator::wallName()
 
 std::wstring CBimNameGenerator::materialName()
 {
-    static const std::vector<const wchar_t*> concrete{L"C20/25", L"C25/30", L"C30/37", L"C35/45",
-                                                      L"C40/50"};
+    static const std::vector<const wchar_t*> concrete{L"C20/25", L"C25/30", L"C30/37", L"C35/45", L"C40/50"};
     static const std::vector<const wchar_t*> named{L"Concrete", L"Béton armé", L"Beton", L"Бетон"};
     static const std::vector<const wchar_t*> others{
-        L"Steel S235JR", L"Steel S355",     L"Stahl S275",   L"Timber GL24h", L"Glass",
-        L"Gypsum Board", L"Plâtre",         L"Ξύλο",          L"Insulation EPS", L"Mineral Wool",
-        L"Brick",        L"Ziegel",         L"Aluminium",    L"Acier galvanisé"};
+        L"Steel S235JR", L"Steel S355", L"Stahl S275", L"Timber GL24h",   L"Glass",
+        L"Gypsum Board", L"Plâtre",     L"Ξύλο",       L"Insulation EPS", L"Mineral Wool",
+        L"Brick",        L"Ziegel",     L"Aluminium",  L"Acier galvanisé"};
     switch (below(3))
     {
     case 0:
@@ -130,8 +135,8 @@ std::wstring CBimNameGenerator::reinforcementName()
 
 std::wstring CBimNameGenerator::scheduleName()
 {
-    static const std::vector<const wchar_t*> kinds{L"Door Schedule", L"Room Schedule", L"Window Schedule",
-                                                   L"Material Takeoff", L"Türliste", L"Nomenclature"};
+    static const std::vector<const wchar_t*> kinds{L"Door Schedule",    L"Room Schedule", L"Window Schedule",
+                                                   L"Material Takeoff", L"Türliste",      L"Nomenclature"};
     return fmt::format(L"{} {} - {}", pick(kinds), number(2), levelName());
 }
 
@@ -199,7 +204,8 @@ std::vector<std::wstring> CBimNameGenerator::distinct(std::size_t count)
     return names;
 }
 
-std::vector<std::wstring> CBimNameGenerator::drawFrom(const std::vector<std::wstring>& pool, std::size_t count)
+std::vector<std::wstring> CBimNameGenerator::drawFrom(const std::vector<std::wstring>& pool,
+                                                      std::size_t count)
 {
     std::vector<std::wstring> names;
     names.reserve(count);

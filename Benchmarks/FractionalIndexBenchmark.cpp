@@ -3,9 +3,8 @@
 // scripts/bench times the same operations of the npm package fractional-indexing beside these
 // (Benchmarks/node/fractional-indexing.mjs); the inputs are made the same way on both sides.
 
-#include "RunOverBatch.h"
-
 #include "Common/FractionalIndex.h"
+#include "RunOverBatch.h"
 
 #include <benchmark/benchmark.h>
 #include <exception>
@@ -60,7 +59,8 @@ void nKeys(benchmark::State& state)
 {
     const std::vector<CFractionalIndex>& keys = listKeys();
     runOverBatch(state, lowerNeighbours(runsPerBatch),
-                 [&keys](std::size_t i) { return CFractionalIndex::generate(keys[i], keys[i + 1], keysPerRun); });
+                 [&keys](std::size_t i)
+                 { return CFractionalIndex::generate(keys[i], keys[i + 1], keysPerRun); });
 }
 
 enum class Chain
@@ -111,7 +111,10 @@ BENCHMARK(nKeys)->Name("fractional/n-keys/common");
 // one run takes seconds.
 void registerChains(Chain direction, const char* name)
 {
-    const auto run = [direction](benchmark::State& state) { chain(state, direction); };
+    const auto run = [direction](benchmark::State& state)
+    {
+        chain(state, direction);
+    };
     benchmark::RegisterBenchmark(name, run)->Arg(1'000)->Arg(10'000)->Unit(benchmark::kMillisecond);
     benchmark::RegisterBenchmark(name, run)->Arg(100'000)->Repetitions(1)->Unit(benchmark::kMillisecond);
 }

@@ -3,10 +3,9 @@
 // case costs) and plain binary comparison of the code units (the floor of all comparisons).
 
 #include "BimNameGenerator.h"
+#include "Common/LogicalCompare.h"
 #include "IcuNumericCollator.h"
 #include "RunOverBatch.h"
-
-#include "Common/LogicalCompare.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
@@ -144,30 +143,38 @@ void bucketNames(benchmark::State& state, const std::vector<Key>& names, Less le
 
 void registerComparisons(PairKind kind, const char* kindName)
 {
-    const auto name = [kindName](const char* peer) { return fmt::format("compare/{}/{}", kindName, peer); };
+    const auto name = [kindName](const char* peer)
+    {
+        return fmt::format("compare/{}/{}", kindName, peer);
+    };
     benchmark::RegisterBenchmark(name("logical").c_str(),
                                  [kind](benchmark::State& state)
                                  {
-                                     runOverBatch(state, widePairs(kind), [](const WidePair& pair)
+                                     runOverBatch(state, widePairs(kind),
+                                                  [](const WidePair& pair)
                                                   { return common::compareLogical(pair.left, pair.right); });
                                  });
     benchmark::RegisterBenchmark(name("icu").c_str(),
                                  [kind](benchmark::State& state)
                                  {
                                      const CIcuNumericCollator& icu = collator();
-                                     runOverBatch(state, utf16Pairs(kind), [&icu](const Utf16Pair& pair)
+                                     runOverBatch(state, utf16Pairs(kind),
+                                                  [&icu](const Utf16Pair& pair)
                                                   { return icu.compare(pair.left, pair.right); });
                                  });
     benchmark::RegisterBenchmark(name("wcscasecmp").c_str(),
                                  [kind](benchmark::State& state)
                                  {
-                                     runOverBatch(state, widePairs(kind), [](const WidePair& pair)
-                                                  { return ::wcscasecmp(pair.left.c_str(), pair.right.c_str()); });
+                                     runOverBatch(
+                                         state, widePairs(kind),
+                                         [](const WidePair& pair)
+                                         { return ::wcscasecmp(pair.left.c_str(), pair.right.c_str()); });
                                  });
     benchmark::RegisterBenchmark(name("binary").c_str(),
                                  [kind](benchmark::State& state)
                                  {
-                                     runOverBatch(state, widePairs(kind), [](const WidePair& pair)
+                                     runOverBatch(state, widePairs(kind),
+                                                  [](const WidePair& pair)
                                                   { return pair.left.compare(pair.right); });
                                  });
 }
@@ -175,21 +182,19 @@ void registerComparisons(PairKind kind, const char* kindName)
 void registerBucketing(std::size_t distinctCount)
 {
     const auto name = [distinctCount](const char* peer)
-    { return fmt::format("bucket/{}/{}", distinctCount, peer); };
-    benchmark::RegisterBenchmark(name("logical").c_str(),
-                                 [distinctCount](benchmark::State& state)
+    {
+        return fmt::format("bucket/{}/{}", distinctCount, peer);
+    };
+    benchmark::RegisterBenchmark(name("logical").c_str(), [distinctCount](benchmark::State& state)
                                  { bucketNames(state, namesToBucket(distinctCount), common::LogicalLess()); })
         ->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark(name("icu").c_str(),
-                                 [distinctCount](benchmark::State& state)
-                                 {
-                                     bucketNames(state, utf16NamesToBucket(distinctCount),
-                                                 IcuNumericLess{&collator()});
-                                 })
+    benchmark::RegisterBenchmark(
+        name("icu").c_str(), [distinctCount](benchmark::State& state)
+        { bucketNames(state, utf16NamesToBucket(distinctCount), IcuNumericLess{&collator()}); })
         ->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark(name("binary").c_str(),
-                                 [distinctCount](benchmark::State& state)
-                                 { bucketNames(state, namesToBucket(distinctCount), std::less<std::wstring>()); })
+    benchmark::RegisterBenchmark(
+        name("binary").c_str(), [distinctCount](benchmark::State& state)
+        { bucketNames(state, namesToBucket(distinctCount), std::less<std::wstring>()); })
         ->Unit(benchmark::kMillisecond);
 }
 

@@ -1,9 +1,8 @@
 // UUIDs of libCommon against libuuid and Boost.Uuid: parsing the text form, printing it to a
 // std::string, hashing and ordering. All three peers work on the same random identifiers.
 
-#include "RunOverBatch.h"
-
 #include "Common/UUID.h"
+#include "RunOverBatch.h"
 
 #include <benchmark/benchmark.h>
 #include <boost/functional/hash.hpp>
@@ -122,7 +121,8 @@ void parseLibUuid(benchmark::State& state)
 
 void parseBoost(benchmark::State& state)
 {
-    runOverBatch(state, texts(), [](const std::string& text) { return boost::uuids::string_generator()(text); });
+    runOverBatch(state, texts(),
+                 [](const std::string& text) { return boost::uuids::string_generator()(text); });
 }
 
 void printCommon(benchmark::State& state)
@@ -144,7 +144,8 @@ void printLibUuid(benchmark::State& state)
 
 void printBoost(benchmark::State& state)
 {
-    runOverBatch(state, boostUuids(), [](const boost::uuids::uuid& uuid) { return boost::uuids::to_string(uuid); });
+    runOverBatch(state, boostUuids(),
+                 [](const boost::uuids::uuid& uuid) { return boost::uuids::to_string(uuid); });
 }
 
 void hashCommon(benchmark::State& state)
@@ -167,7 +168,8 @@ void lessLibUuid(benchmark::State& state)
 {
     const std::vector<LibUuid>& values = libUuids();
     runOverBatch(state, indices(),
-                 [&values](std::size_t i) { return uuid_compare(values[i].bytes, values[nextIndex(i)].bytes) < 0; });
+                 [&values](std::size_t i)
+                 { return uuid_compare(values[i].bytes, values[nextIndex(i)].bytes) < 0; });
 }
 
 void lessBoost(benchmark::State& state)
