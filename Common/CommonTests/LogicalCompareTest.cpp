@@ -92,6 +92,32 @@ TEST(LogicalCompareTest, AccentsBesideTheirBaseLetter)
     expectEquivalent({L"Äpfel", L"äpfel", L"ÄPFEL"});
 }
 
+// The shared start of two names is skipped in blocks of code units; a difference must be found
+// wherever it lies, behind any number of differences of case, at both edges of every block.
+TEST(LogicalCompareTest, DifferenceFoundAtEveryPositionBehindCaseDifferences)
+{
+    const std::wstring letters = L"abcdefghijklmnopqrstuvwxy";
+    for (std::size_t length = 1; length <= letters.size(); ++length)
+        for (std::size_t at = 0; at < length; ++at)
+        {
+            const std::wstring name = letters.substr(0, length);
+            std::wstring shouted = name;
+            std::transform(shouted.begin(), shouted.begin() + static_cast<std::ptrdiff_t>(at + 1),
+                           shouted.begin(), [](wchar_t letter) { return static_cast<wchar_t>(letter - 0x20); });
+            std::wstring nextLetter = name;
+            ++nextLetter[at];
+            std::wstring accented = name;
+            accented[at] = L'é';
+            std::wstring digit = name;
+            digit[at] = L'7';
+            SCOPED_TRACE(testing::Message() << "length " << length << ", difference at " << at);
+            expectEquivalent({name, shouted});
+            expectAscending({digit, name, nextLetter});
+            expectAscending({shouted.substr(0, at) + L'e', accented, shouted.substr(0, at) + L'f'});
+            expectAscending({shouted.substr(0, at), shouted.substr(0, at + 1) + name.substr(at + 1)});
+        }
+}
+
 TEST(LogicalCompareTest, CodeUnitsBeyondUnicodeLastByValue)
 {
     Names names;
