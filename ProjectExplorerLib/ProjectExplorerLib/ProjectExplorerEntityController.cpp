@@ -34,6 +34,7 @@
 #include "Common/Check.h"
 #include "Common/UUID.h"
 
+#include <boost/locale/encoding_utf.hpp>
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -46,6 +47,19 @@ namespace project_explorer
 
 namespace
 {
+
+// The dialog answers in Unicode. libstdc++ would convert a wide path through the C locale and
+// fail on any non-ASCII name, so the path is made from UTF-8, which it takes as it is.
+std::filesystem::path toFileSystemPath(const std::wstring& text)
+{
+#if defined(_WIN32)
+    return std::filesystem::path(text);
+#else
+    const std::string utf8 = boost::locale::conv::utf_to_utf<char>(text);
+    return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
+#endif
+}
+
 
 // The collections that pasted entities may go into: those that a copy carries.
 const std::vector<aec::EntityCollection>& pasteCollections()
@@ -204,7 +218,7 @@ void CProjectExplorerEntityController::importTableFromFile()
 
     aec::IProject& project = currentProject();
     CProjectOperation operation(project, operationGuardSource_, "Import table from file");
-    titleBlockIO_.importTable(project, std::filesystem::path(answer));
+    titleBlockIO_.importTable(project, toFileSystemPath(answer));
     operation.commit();
 }
 

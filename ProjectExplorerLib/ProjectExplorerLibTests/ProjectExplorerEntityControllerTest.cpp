@@ -267,13 +267,14 @@ TEST_F(EntityControllerTest, ImportAddsTheTableUnlessTheUserCancels)
     const std::filesystem::path folder =
         std::filesystem::temp_directory_path() / common::UUID::generate().toString();
     std::filesystem::create_directories(folder);
-    std::ofstream(folder / "Windows.csv") << "Mark,Width\nW1,1200\n";
-    host.getImportFileDialog().queueAnswer((folder / "Windows.csv").wstring());
+    // A name outside ASCII, as users name their files.
+    std::ofstream(folder / std::filesystem::path(u8"Fen\u00eatres.csv")) << "Mark,Width\nW1,1200\n";
+    host.getImportFileDialog().queueAnswer(folder.wstring() + L"/Fen\u00eatres.csv");
     controller->importTableFromFile();
     std::filesystem::remove_all(folder);
 
     EXPECT_EQ(host.getImportFileDialog().getAskCount(), 2u);
-    EXPECT_EQ(nameOf(project.getEntities(aec::EntityCollection::Tables).back()), L"Windows");
+    EXPECT_EQ(nameOf(project.getEntities(aec::EntityCollection::Tables).back()), L"Fen\u00eatres");
     EXPECT_EQ(undoNames(), std::vector<std::string>{"Import table from file"});
 }
 
