@@ -60,7 +60,6 @@ std::filesystem::path toFileSystemPath(const std::wstring& text)
 #endif
 }
 
-
 // The collections that pasted entities may go into: those that a copy carries.
 const std::vector<aec::EntityCollection>& pasteCollections()
 {
