@@ -1,7 +1,7 @@
 cmake_minimum_required(VERSION 3.25)
 
 # Configures and builds the example host against the package in PREFIX alone, runs it, and checks
-# what it shows of the explorer before and after its user action.
+# what it shows of the explorer before and after its user action, and when it is opened again.
 # Arguments: PREFIX, SOURCE_DIR, BINARY_DIR, GENERATOR, MAKE_PROGRAM, CXX_COMPILER,
 # CXX_COMPILER_LAUNCHER, CXX_FLAGS, EXE_LINKER_FLAGS, CONFIG.
 
@@ -31,12 +31,18 @@ run_step("Configuring the example against ${PREFIX}" ${CMAKE_COMMAND} ${configur
 
 # A package found anywhere else (a system install) would prove nothing about this one.
 file(STRINGS ${BINARY_DIR}/CMakeCache.txt package_dir REGEX "^ProjectExplorer_DIR:")
-if(NOT package_dir MATCHES "=${PREFIX}/")
+string(FIND "${package_dir}" "=${PREFIX}/" found_in_prefix)
+if(found_in_prefix EQUAL -1)
     message(FATAL_ERROR "The example found the package outside ${PREFIX}: ${package_dir}")
 endif()
 
-run_step("Building the example" ${CMAKE_COMMAND} --build ${BINARY_DIR} --config ${CONFIG} --parallel 2)
+set(config_arguments "")
+if(CONFIG)
+    set(config_arguments --config ${CONFIG})
+endif()
+run_step("Building the example" ${CMAKE_COMMAND} --build ${BINARY_DIR} ${config_arguments} --parallel 2)
 
+# A multi-configuration generator puts the program into a folder of its configuration.
 set(program ${BINARY_DIR}/minimal-host)
 if(NOT EXISTS ${program})
     set(program ${BINARY_DIR}/${CONFIG}/minimal-host)
@@ -61,8 +67,8 @@ while(TRUE)
     string(SUBSTRING "${rest}" ${heading} -1 rest)
     math(EXPR part_count "${part_count} + 1")
 endwhile()
-if(NOT part_count EQUAL 4)
-    message(FATAL_ERROR "The example printed ${part_count} steps instead of four:\n${output}")
+if(NOT part_count EQUAL 5)
+    message(FATAL_ERROR "The example printed ${part_count} steps instead of five:\n${output}")
 endif()
 
 set(faults "")
@@ -78,6 +84,7 @@ set(opened "${part_1}")
 set(selected "${part_2}")
 set(context_menu "${part_3}")
 set(deleted "${part_4}")
+set(reopened "${part_5}")
 
 # Opened: every group folded, with the count of its entities from the project.
 expect(opened "> Sheets (4)\n> Tables (1)\n")
@@ -97,15 +104,18 @@ v Sheets
 expect(context_menu "[Delete]")
 # Deleted after confirmation in one transaction; the emptied subgroup is gone, the others keep
 # their fold state.
-expect(deleted "Do you want to delete the 2 selected entities? -> Yes\n")
-expect(deleted [[
+set(sheets_after_delete [[
 v Sheets
   > (none) (1)
   v Architecture
       Ground floor plan
 > Tables (1)
 ]])
+expect(deleted "Do you want to delete the 2 selected entities? -> Yes\n")
+expect(deleted "${sheets_after_delete}")
 expect(deleted "Undo history: Remove entities from project explorer\n")
+# A new explorer of the project restores grouping and fold state from the project's preferences.
+expect(reopened "${sheets_after_delete}")
 
 if(faults)
     message(FATAL_ERROR "The example's output is wrong:${faults}\n\nWhole output:\n${output}")

@@ -1,7 +1,8 @@
 // The smallest host of the project explorer: a console program with a tiny in-memory project. It
 // starts the library through its nine entry points in their documented order, shows the explorer
 // of the project, and runs one user action end to end: group and unfold a group, select two
-// entities, delete them through the host's Delete command.
+// entities, delete them through the host's Delete command. Then it shows the explorer again,
+// restored from the project's preferences.
 
 #include "Clipboard.h"
 #include "ConsoleDialogs.h"
@@ -98,10 +99,15 @@ void run()
     gui.setDocumentGui(CDocumentWindow::key, &window);
     CProjectServices projectServices(project);
     const auto controller = projectServices.createController(*controllerFactory);
-    auto view = viewCreator->createView(window, session, project, *controller, translation, session,
-                                        project.getObjectEvents(), clipboard);
-    view->setClipboardListenerRegistry(&clipboard);
-    view->setGui(&gui);
+    const auto openView = [&]
+    {
+        auto made = viewCreator->createView(window, session, project, *controller, translation, session,
+                                            project.getObjectEvents(), clipboard);
+        made->setClipboardListenerRegistry(&clipboard);
+        made->setGui(&gui);
+        return made;
+    };
+    auto view = openView();
     auto activity = view->createActivity();
 
     CConsolePanel& panel = window.getExplorerPanel();
@@ -127,8 +133,18 @@ void run()
     panel.print();
     fmt::print("Undo history: {}\n", fmt::join(project.getUndoHistory(), "; "));
 
-    // Closing the project, in reverse order. The view takes the explorer with it, so the panel
-    // lets go of the explorer first. The rest goes at the end of the scope.
+    // Every fold and grouping change went into the project's preferences, so a new view of the
+    // project starts as the user left the old one. The view takes the explorer with it, so the
+    // panel lets go of the explorer before the view goes.
+    announce("The user closes the explorer and opens it again");
+    activity.reset();
+    panel.detachExplorer();
+    view.reset();
+    view = openView();
+    activity = view->createActivity();
+    panel.print();
+
+    // Closing the project, in reverse order; the rest goes at the end of the scope.
     activity.reset();
     panel.detachExplorer();
     view.reset();
