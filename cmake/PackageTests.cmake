@@ -26,7 +26,8 @@ add_test(NAME PackageHoldsOnlyTheLibrariesAndTheirHeaders
 set_tests_properties(PackageHoldsOnlyTheLibrariesAndTheirHeaders PROPERTIES FIXTURES_REQUIRED PackageInstalled)
 
 # The example is built with this build's compiler, generator, build type and flags (the sanitizer
-# flags of an asan build, which its libraries need in the program too), warnings as errors.
+# flags of an asan build, which its libraries need in the program too), warnings as errors. Its
+# build runs alone, so that it takes no more cores than the build it tests.
 add_test(NAME MinimalHostBuildsAndRunsAgainstPackage
          COMMAND ${CMAKE_COMMAND}
                  -DPREFIX=${PACKAGE_TEST_PREFIX}
@@ -42,4 +43,5 @@ add_test(NAME MinimalHostBuildsAndRunsAgainstPackage
                  -P ${PACKAGE_TEST_SCRIPTS}/BuildAndRunExample.cmake)
 set_tests_properties(MinimalHostBuildsAndRunsAgainstPackage PROPERTIES
     FIXTURES_REQUIRED PackageInstalled
+    RUN_SERIAL TRUE
     TIMEOUT 900)

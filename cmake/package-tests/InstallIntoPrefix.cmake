@@ -5,8 +5,12 @@ cmake_minimum_required(VERSION 3.25)
 # Arguments: BUILD_DIR, PREFIX, CONFIG.
 
 file(REMOVE_RECURSE ${PREFIX})
+set(config_arguments "")
+if(CONFIG)
+    set(config_arguments --config ${CONFIG})
+endif()
 execute_process(
-    COMMAND ${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${PREFIX} --config ${CONFIG}
+    COMMAND ${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${PREFIX} ${config_arguments}
     RESULT_VARIABLE result
     OUTPUT_VARIABLE output
     ERROR_VARIABLE output)
