@@ -29,7 +29,8 @@ void CConsoleDialogs::edit(aec::IPropertyContextOwner& /*owner*/, const aec::Ent
 }
 
 // The explorer imports only the file that askForFile chose, and this host's user chooses none.
-aec::EntityId CConsoleDialogs::importTable(aec::IProject& /*project*/, const std::filesystem::path& /*file*/) const
+aec::EntityId CConsoleDialogs::importTable(aec::IProject& /*project*/,
+                                           const std::filesystem::path& /*file*/) const
 {
     throw common::EException("This host does not import tables.");
 }

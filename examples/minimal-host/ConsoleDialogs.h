@@ -17,7 +17,8 @@ class CConsoleDialogs final : public aec::IGeneralPurposeDialogService,
                               public aec::ITitleBlockIO
 {
 public:
-    aec::DialogAnswer ask(const std::wstring& title, const std::wstring& question, int buttonSet) const override;
+    aec::DialogAnswer ask(const std::wstring& title, const std::wstring& question,
+                          int buttonSet) const override;
     std::wstring askForFile() const override;
     void edit(aec::IPropertyContextOwner& owner, const aec::EntityIdSet& entities) override;
     aec::EntityId importTable(aec::IProject& project, const std::filesystem::path& file) const override;

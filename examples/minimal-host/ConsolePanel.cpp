@@ -28,7 +28,8 @@
 namespace minimal_host
 {
 
-CConsolePanel::CConsolePanel(const aec::IProjectSessionManager& sessionManager) : sessionManager_(sessionManager)
+CConsolePanel::CConsolePanel(const aec::IProjectSessionManager& sessionManager)
+    : sessionManager_(sessionManager)
 {
 }
 
@@ -59,8 +60,8 @@ void CConsolePanel::startRename(const aec::EntityId& entity)
         fmt::print("Panel: rename \"{}\" in place\n", toUtf8(found->getName()));
 }
 
-void CConsolePanel::onObjectsChanged(std::uint32_t code, std::uint32_t /*value*/, const aec::EntityIdSet& /*changed*/,
-                                     const aec::EntityIdSet& removed)
+void CConsolePanel::onObjectsChanged(std::uint32_t code, std::uint32_t /*value*/,
+                                     const aec::EntityIdSet& /*changed*/, const aec::EntityIdSet& removed)
 {
     if (code != aec::objectEventEntitiesChanged || explorer_ == nullptr)
         return;
@@ -121,7 +122,8 @@ void CConsolePanel::print() const
             if (subgroup.getName().empty())
                 printEntities(subgroup, 2);
             else if (!subgroup.isExpanded())
-                fmt::print("  > {} ({})\n", toUtf8(subgroup.getName()), boost::distance(subgroup.getEntities()));
+                fmt::print("  > {} ({})\n", toUtf8(subgroup.getName()),
+                           boost::distance(subgroup.getEntities()));
             else
             {
                 fmt::print("  v {}\n", toUtf8(subgroup.getName()));

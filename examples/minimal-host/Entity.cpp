@@ -13,8 +13,8 @@ const aec::EntityTypeId& entityTypeOf(aec::EntityCollection collection)
     using namespace aec::entity_types;
     // In the order of aec::EntityCollection.
     static const std::array<aec::EntityTypeId, aec::entityCollectionCount> types{
-        sheet(),      table(),    assembly(),         material(), doorStyle(),
-        windowStyle(), reinforcementStyle(), topic(), linkedModel(), image()};
+        sheet(), table(),       assembly(), material(), doorStyle(), windowStyle(), reinforcementStyle(),
+        topic(), linkedModel(), image()};
     return types.at(static_cast<std::size_t>(collection));
 }
 

@@ -96,7 +96,10 @@ void CGui::setButtonValue(std::uint32_t /*panel*/, std::uint32_t /*button*/, con
 {
 }
 
-void CGui::registerButtonCallback(std::uint32_t /*panel*/, std::uint32_t /*button*/, ButtonCallback /*callback*/) {}
+void CGui::registerButtonCallback(std::uint32_t /*panel*/, std::uint32_t /*button*/,
+                                  ButtonCallback /*callback*/)
+{
+}
 
 void CGui::unregisterButtonCallback(std::uint32_t /*panel*/, std::uint32_t /*button*/) {}
 

@@ -36,12 +36,14 @@ public:
     void clearContextMenuHandler() override;
     void enableCommand(int command, bool enabled) override;
     bool isCommandEnabled(int command) const override;
-    void showContextMenu(const std::vector<aec::CContextMenuItem>& items, const aec::MbCartPoint& point) override;
+    void showContextMenu(const std::vector<aec::CContextMenuItem>& items,
+                         const aec::MbCartPoint& point) override;
 
     void resetButtonItems(std::uint32_t panel, std::uint32_t element) override;
-    void addButtonItem(std::uint32_t panel, std::uint32_t button, const std::wstring& value, const std::wstring& label,
-                       bool enabled) override;
-    void setButtonValue(std::uint32_t panel, std::uint32_t button, const std::wstring& value, bool notify) override;
+    void addButtonItem(std::uint32_t panel, std::uint32_t button, const std::wstring& value,
+                       const std::wstring& label, bool enabled) override;
+    void setButtonValue(std::uint32_t panel, std::uint32_t button, const std::wstring& value,
+                        bool notify) override;
     void registerButtonCallback(std::uint32_t panel, std::uint32_t button, ButtonCallback callback) override;
     void unregisterButtonCallback(std::uint32_t panel, std::uint32_t button) override;
 

@@ -14,8 +14,8 @@ namespace minimal_host
 
 CProject::CProject(aec::IDocument& document) : document_(document) {}
 
-aec::EntityId CProject::add(aec::EntityCollection collection, std::wstring name, std::optional<aec::EntityId> topic,
-                            aec::EntityId id)
+aec::EntityId CProject::add(aec::EntityCollection collection, std::wstring name,
+                            std::optional<aec::EntityId> topic, aec::EntityId id)
 {
     if (id.isNull())
         id = aec::EntityId(common::UUID::generate());
@@ -99,7 +99,8 @@ std::vector<aec::CTopic> CProject::getTopics() const
     return topics;
 }
 
-void CProject::prepareTopicChange(const std::vector<aec::IEntity*>& /*entities*/, const aec::TopicId& /*topic*/)
+void CProject::prepareTopicChange(const std::vector<aec::IEntity*>& /*entities*/,
+                                  const aec::TopicId& /*topic*/)
 {
     throw common::EException("This host cannot move entities to another topic.");
 }
@@ -186,8 +187,9 @@ void CProject::announceWhenDue()
     const std::uint32_t collections = std::exchange(pendingCollections_, 0);
     const aec::EntityIdSet changed = std::exchange(pendingChanged_, {});
     const aec::EntityIdSet removed = std::exchange(pendingRemoved_, {});
-    objectEvents_.notify([&](aec::IObjectEvents& observer)
-                         { observer.onObjectsChanged(aec::objectEventEntitiesChanged, collections, changed, removed); });
+    objectEvents_.notify(
+        [&](aec::IObjectEvents& observer)
+        { observer.onObjectsChanged(aec::objectEventEntitiesChanged, collections, changed, removed); });
 }
 
 } // namespace minimal_host

@@ -58,11 +58,10 @@ const char* const noCopies = "This host does not copy entities to the clipboard.
 } // namespace
 
 CProjectServices::CProjectServices(CProject& project)
-    : project_(project),
-      typeHandlers_{CTypeHandler(project, aec::EntityCollection::Sheets, L"Sheet"),
-                    CTypeHandler(project, aec::EntityCollection::Tables, L"Table"),
-                    CTypeHandler(project, aec::EntityCollection::Assemblies, L"Assembly"),
-                    CTypeHandler(project, aec::EntityCollection::Materials, L"Material")}
+    : project_(project), typeHandlers_{CTypeHandler(project, aec::EntityCollection::Sheets, L"Sheet"),
+                                       CTypeHandler(project, aec::EntityCollection::Tables, L"Table"),
+                                       CTypeHandler(project, aec::EntityCollection::Assemblies, L"Assembly"),
+                                       CTypeHandler(project, aec::EntityCollection::Materials, L"Material")}
 {
 }
 
@@ -93,7 +92,8 @@ aec::EntityIdSet CProjectServices::getEntities(const aec::EntityIdList& requeste
     return aec::EntityIdSet(requested.begin(), requested.end());
 }
 
-std::unique_ptr<aec::IProjectEntityCopyData> CProjectServices::build(const aec::CopyCollections& /*collections*/) const
+std::unique_ptr<aec::IProjectEntityCopyData>
+CProjectServices::build(const aec::CopyCollections& /*collections*/) const
 {
     throw common::EException(noCopies);
 }
@@ -101,11 +101,13 @@ std::unique_ptr<aec::IProjectEntityCopyData> CProjectServices::build(const aec::
 std::unique_ptr<aec::IOperationGuard> CProjectServices::createGuard(aec::IOperationHost& host) const
 {
     if (host.isOperationRunning())
-        throw common::EException("Another change of the project is still running; try again when it has ended.");
+        throw common::EException(
+            "Another change of the project is still running; try again when it has ended.");
     return std::make_unique<COperationGuard>();
 }
 
-aec::EntityIdList CProjectServices::paste(aec::IProject& /*project*/, const aec::IProjectEntityPasteData& /*data*/)
+aec::EntityIdList CProjectServices::paste(aec::IProject& /*project*/,
+                                          const aec::IProjectEntityPasteData& /*data*/)
 {
     throw common::EException(noCopies);
 }

@@ -50,7 +50,8 @@ public:
     aec::EntityIdSet getEntities(const aec::EntityIdList& requested) const override;
 
     // aec::ICopyDataBuilder
-    std::unique_ptr<aec::IProjectEntityCopyData> build(const aec::CopyCollections& collections) const override;
+    std::unique_ptr<aec::IProjectEntityCopyData>
+    build(const aec::CopyCollections& collections) const override;
 
     // aec::IOperationGuardSource: refuses to start a change while another one runs.
     std::unique_ptr<aec::IOperationGuard> createGuard(aec::IOperationHost& host) const override;

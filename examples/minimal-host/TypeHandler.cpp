@@ -36,15 +36,15 @@ void CTypeHandler::rename(const aec::EntityId& id, const std::wstring& newName)
     // Names stay unique, so that the user can tell entities apart in the panel.
     const CEntity* const namesake = project_.findByName(newName);
     if (namesake != nullptr && namesake->getId() != id)
-        throw common::EException(fmt::format("There is already an entity called \"{}\".",
-                                             toUtf8(newName)));
+        throw common::EException(fmt::format("There is already an entity called \"{}\".", toUtf8(newName)));
     project_.rename(id, newName);
 }
 
 std::wstring CTypeHandler::freeName() const
 {
     for (int number = 1;; ++number)
-        if (std::wstring name = fmt::format(L"{} {}", baseName_, number); project_.findByName(name) == nullptr)
+        if (std::wstring name = fmt::format(L"{} {}", baseName_, number);
+            project_.findByName(name) == nullptr)
             return name;
 }
 

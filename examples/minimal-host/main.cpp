@@ -86,7 +86,8 @@ void run()
     const auto explorerFactory =
         project_explorer::createProjectExplorerFactory(*groupingModelFactory, *groupMaker, *entityProvider);
     const auto eventHandlerFactory = project_explorer::createProjectExplorerGuiEventHandlerFactory();
-    const auto viewCreator = project_explorer::createViewCreator(*explorerFactory, window, *eventHandlerFactory);
+    const auto viewCreator =
+        project_explorer::createViewCreator(*explorerFactory, window, *eventHandlerFactory);
     const auto controllerFactory = project_explorer::createProjectExplorerEntityControllerFactory(
         clipboard, gui, translation, session, dialogs, dialogs, dialogs, dialogs, clipboard);
 
@@ -118,7 +119,8 @@ void run()
     // selecting unfolds the entities' subgroups. Delete runs the handler that the activity bound to
     // the command: the entity controller asks for confirmation, removes the entities in one
     // transaction, and the project's change event makes the panel rebuild the groups.
-    announce("The user groups \"Sheets\" by topic, unfolds it, selects \"Roof plan\" and \"Foundation plan\"");
+    announce(
+        "The user groups \"Sheets\" by topic, unfolds it, selects \"Roof plan\" and \"Foundation plan\"");
     const int sheetsGroup = 0; // the first of the explorer's groups
     panel.chooseGrouping(sheetsGroup, L"Topic");
     panel.toggleGroup(sheetsGroup);
