@@ -1,0 +1,60 @@
+cmake_minimum_required(VERSION 3.25)
+
+# Checks what an install put under PREFIX: the three shared libraries, their headers and the host
+# interface headers, the package's CMake files, and nothing else (no reference host, no tests, no
+# build tools); and that every header finds the headers it includes among the installed ones.
+# Arguments: PREFIX, LIBDIR, INCLUDEDIR, PACKAGE, LIBRARIES (file names, comma-separated).
+
+string(REPLACE "," ";" LIBRARIES "${LIBRARIES}")
+set(header_pattern "^${INCLUDEDIR}/(Common|aec|AecApp|ProjectExplorerLib)/[^/]+\\.h$")
+set(config_pattern "^${LIBDIR}/cmake/${PACKAGE}/[^/]+\\.cmake$")
+
+file(GLOB_RECURSE installed LIST_DIRECTORIES false RELATIVE ${PREFIX} ${PREFIX}/*)
+set(faults "")
+set(headers "")
+set(libraries_found "")
+foreach(file IN LISTS installed)
+    cmake_path(GET file FILENAME name)
+    cmake_path(GET file PARENT_PATH folder)
+    if(file MATCHES "${header_pattern}")
+        list(APPEND headers ${file})
+    elseif(file MATCHES "${config_pattern}")
+    elseif(folder STREQUAL LIBDIR AND name IN_LIST LIBRARIES)
+        list(APPEND libraries_found ${name})
+    else()
+        list(APPEND faults "installed but not part of the package: ${file}")
+    endif()
+endforeach()
+
+foreach(library IN LISTS LIBRARIES)
+    if(NOT library IN_LIST libraries_found)
+        list(APPEND faults "library not installed: ${LIBDIR}/${library}")
+    endif()
+endforeach()
+foreach(config IN ITEMS ${PACKAGE}Config.cmake ${PACKAGE}ConfigVersion.cmake ${PACKAGE}Targets.cmake)
+    if(NOT EXISTS ${PREFIX}/${LIBDIR}/cmake/${PACKAGE}/${config})
+        list(APPEND faults "package file not installed: ${LIBDIR}/cmake/${PACKAGE}/${config}")
+    endif()
+endforeach()
+
+# A quoted include is looked up beside the including header first, then under the include root.
+foreach(header IN LISTS headers)
+    file(STRINGS ${PREFIX}/${header} includes REGEX "^[ \t]*#[ \t]*include[ \t]*\"")
+    cmake_path(GET header PARENT_PATH header_folder)
+    foreach(line IN LISTS includes)
+        string(REGEX REPLACE "^[^\"]*\"([^\"]+)\".*$" "\\1" included "${line}")
+        if(NOT EXISTS ${PREFIX}/${header_folder}/${included} AND NOT EXISTS ${PREFIX}/${INCLUDEDIR}/${included})
+            list(APPEND faults "${header} includes \"${included}\", which is not installed")
+        endif()
+    endforeach()
+endforeach()
+
+if(NOT headers)
+    list(APPEND faults "no headers installed under ${INCLUDEDIR}")
+endif()
+if(faults)
+    list(JOIN faults "\n  " report)
+    message(FATAL_ERROR "The installed package under ${PREFIX} is wrong:\n  ${report}")
+endif()
+list(LENGTH headers header_count)
+message(STATUS "${header_count} headers, ${LIBRARIES} and the ${PACKAGE} package files installed")
