@@ -3,6 +3,12 @@
 #include "ExplorerDesktop/DesktopOptions.h"
 
 #include <iosfwd>
+#include <optional>
+
+namespace aec::host
+{
+class CExplorerSession;
+} // namespace aec::host
 
 namespace aec::desktop
 {
@@ -20,6 +26,8 @@ public:
     int run();
 
 private:
+    // The exit status if the script ended the program (a failed command, or `quit`).
+    std::optional<int> runScript(host::CExplorerSession& session);
     int fail(const QString& message) const;
 
     DesktopOptions options_;

@@ -2,6 +2,8 @@
 
 #include "ExplorerDesktop/EntityPage.h"
 
+#include <QPainter>
+
 namespace aec::desktop
 {
 
@@ -63,6 +65,19 @@ CEntityPage* CDocumentArea::findPage(const EntityId& entity) const
         if (pageAt(tab)->getEntity() == entity)
             return pageAt(tab);
     return nullptr;
+}
+
+void CDocumentArea::paintEvent(QPaintEvent* event)
+{
+    QTabWidget::paintEvent(event);
+    if (count() > 0)
+        return;
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(
+        rect(), Qt::AlignCenter | Qt::TextWordWrap,
+        tr("Double-click a sheet or a table in the explorer, or choose Open in its context menu, to "
+           "open it here."));
 }
 
 CEntityPage* CDocumentArea::pageAt(int tab) const

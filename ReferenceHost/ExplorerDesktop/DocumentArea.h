@@ -33,6 +33,10 @@ public:
     void refresh(const model::CProject* project);
     CEntityPage* findPage(const EntityId& entity) const;
 
+protected:
+    // Without tabs, says how to open one.
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     CEntityPage* pageAt(int tab) const;
     void closeTab(int tab);

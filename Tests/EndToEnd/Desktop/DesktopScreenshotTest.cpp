@@ -1,5 +1,6 @@
 #include "ExplorerDesktop/MainWindow.h"
 
+#include <QFile>
 #include <QImage>
 #include <QProcess>
 #include <QSet>
@@ -15,17 +16,21 @@ class DesktopScreenshotTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void theProgramPaintsItsWindowIntoAPicture()
+    void theProgramPaintsItsWindowIntoAPictureAfterItsScript()
     {
         QTemporaryDir directory;
         QVERIFY(directory.isValid());
+        const QString script =
+            writeScript(directory, "toggle Sheets\nselect \"Cover sheet\"\ngroup Tables Topic\n");
         const QString picture = directory.filePath("window.png");
         QProcess program;
         program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        program.start(EXPLORER_DESKTOP, {"--seed", "3", "--screenshot", picture});
+        program.start(EXPLORER_DESKTOP, {"--seed", "3", "--script", script, "--screenshot", picture});
         QVERIFY2(program.waitForFinished(120000), "the program did not end");
         QCOMPARE(program.exitStatus(), QProcess::NormalExit);
         QCOMPARE(program.exitCode(), 0);
+        QVERIFY2(QString::fromUtf8(program.readAllStandardOutput()).contains("Cover sheet"),
+                 "the script's commands print what they did");
 
         QImage image;
         QVERIFY2(image.load(picture, "PNG"), "the picture does not load as a PNG");
@@ -36,6 +41,22 @@ private Q_SLOTS:
             for (int x = 0; x < image.width(); x += 2)
                 colours.insert(image.pixel(x, y));
         QVERIFY2(colours.size() > 16, qPrintable(QString("only %1 colours").arg(colours.size())));
+    }
+
+    void aFailingScriptEndsTheProgramBeforeTheWindow()
+    {
+        QTemporaryDir directory;
+        QVERIFY(directory.isValid());
+        const QString script = writeScript(directory, "toggle Sheets\ntoggle Nowhere\ntoggle Tables\n");
+        const QString picture = directory.filePath("window.png");
+        QProcess program;
+        program.start(EXPLORER_DESKTOP, {"--script", script, "--screenshot", picture});
+        QVERIFY(program.waitForFinished(60000));
+        QCOMPARE(program.exitCode(), 1);
+        const QString out = QString::fromUtf8(program.readAllStandardOutput());
+        QVERIFY2(out.contains("error:") && !out.contains("unfolded: Tables"), qPrintable(out));
+        QVERIFY(QString::fromUtf8(program.readAllStandardError()).contains("line 2"));
+        QVERIFY(!QFile::exists(picture));
     }
 
     void badArgumentsAreRefusedWithTheUsage()
@@ -52,6 +73,16 @@ private Q_SLOTS:
         QVERIFY(program.waitForFinished(60000));
         QCOMPARE(program.exitCode(), 1);
         QVERIFY(QString::fromUtf8(program.readAllStandardError()).contains("/nonexistent/project.json"));
+    }
+
+private:
+    static QString writeScript(const QTemporaryDir& directory, const char* commands)
+    {
+        const QString path = directory.filePath("script.txt");
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(commands) < 0)
+            qFatal("cannot write the script %s", qPrintable(path));
+        return path;
     }
 };
 
