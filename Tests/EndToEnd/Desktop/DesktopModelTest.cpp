@@ -1,10 +1,10 @@
 #include "AecModel/Project.h"
 #include "AecModel/SampleProject.h"
+#include "DesktopTestSupport.h"
 #include "ExplorerDesktop/CommandRunner.h"
 #include "ExplorerDesktop/ContextMenuBuilder.h"
 #include "ExplorerDesktop/ExplorerItemModel.h"
 #include "ExplorerDesktop/ExplorerSelectionModel.h"
-#include "ExplorerMirror.h"
 #include "HostFrame/ExplorerPanel.h"
 #include "HostFrame/ExplorerSession.h"
 #include "HostFrame/GroupingButtons.h"
@@ -280,7 +280,7 @@ private Q_SLOTS:
         chooseButton(&host::GroupingButtonIds::groupCriterion, topicCriterion());
         chooseButton(&host::GroupingButtonIds::sortOrder, L"2");
         model_->setExpanded(subgroupIndex(0, L"Structure"), true);
-        const QStringList subgroupsBefore = subgroupNames(0);
+        const QStringList subgroupsBefore = subgroupNames(*model_, 0);
 
         QTemporaryDir directory;
         QVERIFY(directory.isValid());
@@ -290,7 +290,7 @@ private Q_SLOTS:
 
         VERIFY_MODEL_MIRRORS_EXPLORER();
         QVERIFY(model_->isExpanded(model_->index(0, 0)));
-        QCOMPARE(subgroupNames(0), subgroupsBefore);
+        QCOMPARE(subgroupNames(*model_, 0), subgroupsBefore);
         QVERIFY(model_->isExpanded(subgroupIndex(0, L"Structure")));
         QVERIFY(!model_->isExpanded(model_->index(1, 0)));
         QVERIFY2(undoNames().empty(), "a loaded project starts without history");
@@ -300,11 +300,7 @@ private Q_SLOTS:
     }
 
 private:
-    IProjectExplorerGroup& group(int row)
-    {
-        auto groups = session_->getExplorer().getGroups();
-        return *std::next(groups.begin(), row);
-    }
+    IProjectExplorerGroup& group(int row) { return groupAt(session_->getExplorer(), row); }
 
     EntityId entityNamed(const std::wstring& name)
     {
@@ -316,24 +312,9 @@ private:
         qFatal("the sample project has no entity named %ls", name.c_str());
     }
 
-    QModelIndex findEntityIndex(const std::wstring& name) const
-    {
-        const QModelIndexList found =
-            model_->match(model_->index(0, 0), Qt::EditRole, QString::fromStdWString(name), 1,
-                          Qt::MatchExactly | Qt::MatchRecursive | Qt::MatchWrap);
-        for (const QModelIndex& index : found)
-            if (model_->nodeAt(index)->getKind() == CExplorerTreeNode::Kind::Entity)
-                return index;
-        return {};
-    }
+    QModelIndex findEntityIndex(const std::wstring& name) const { return findEntityRow(*model_, name); }
 
-    QModelIndex entityIndex(const std::wstring& name)
-    {
-        const QModelIndex index = findEntityIndex(name);
-        if (!index.isValid())
-            qFatal("the tree shows no entity named %ls", name.c_str());
-        return index;
-    }
+    QModelIndex entityIndex(const std::wstring& name) const { return entityRow(*model_, name); }
 
     QModelIndex subgroupIndex(int groupRow, const std::wstring& name) const
     {
@@ -342,15 +323,6 @@ private:
             if (model_->index(row, 0, group).data(Qt::EditRole).toString() == QString::fromStdWString(name))
                 return model_->index(row, 0, group);
         return {};
-    }
-
-    QStringList subgroupNames(int groupRow) const
-    {
-        QStringList names;
-        const QModelIndex group = model_->index(groupRow, 0);
-        for (int row = 0; row < model_->rowCount(group); ++row)
-            names.append(model_->index(row, 0, group).data(Qt::EditRole).toString());
-        return names;
     }
 
     std::vector<std::string> undoNames() const { return session_->getUndoHistory().getUndoNames(); }

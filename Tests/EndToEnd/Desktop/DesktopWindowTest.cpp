@@ -1,5 +1,6 @@
 #include "AecModel/Project.h"
 #include "AecModel/SampleProject.h"
+#include "DesktopTestSupport.h"
 #include "ExplorerDesktop/ButtonComboBox.h"
 #include "ExplorerDesktop/DocumentArea.h"
 #include "ExplorerDesktop/EntityPage.h"
@@ -9,7 +10,6 @@
 #include "ExplorerDesktop/GroupingBar.h"
 #include "ExplorerDesktop/MainWindow.h"
 #include "ExplorerDesktop/PropertiesDialog.h"
-#include "ExplorerMirror.h"
 #include "HostFrame/ExplorerPanel.h"
 #include "HostFrame/ExplorerSession.h"
 #include "HostFrame/GroupingButtons.h"
@@ -124,9 +124,9 @@ private Q_SLOTS:
         QCOMPARE(bar.getCriterionBox().currentIndex(), topic);
         QVERIFY(bar.getSortOrderBox().chooseValue("2"));
         VERIFY_EMPTY(explorerMismatch(model, session_->getExplorer()));
-        const QStringList descending = subgroupNames(1);
+        const QStringList descending = subgroupNames(window_->getModel(), 1);
         QVERIFY(bar.getSortOrderBox().chooseValue("1"));
-        QStringList ascending = subgroupNames(1);
+        QStringList ascending = subgroupNames(window_->getModel(), 1);
         std::reverse(ascending.begin(), ascending.end());
         QCOMPARE(ascending, descending);
 
@@ -270,31 +270,9 @@ private Q_SLOTS:
     }
 
 private:
-    IProjectExplorerGroup& group(int row)
-    {
-        auto groups = session_->getExplorer().getGroups();
-        return *std::next(groups.begin(), row);
-    }
+    IProjectExplorerGroup& group(int row) { return groupAt(session_->getExplorer(), row); }
 
-    QModelIndex entityIndex(const std::wstring& name) const
-    {
-        const CExplorerItemModel& model = window_->getModel();
-        for (const QModelIndex& index :
-             model.match(model.index(0, 0), Qt::EditRole, QString::fromStdWString(name), -1,
-                         Qt::MatchExactly | Qt::MatchRecursive | Qt::MatchWrap))
-            if (model.nodeAt(index)->getKind() == CExplorerTreeNode::Kind::Entity)
-                return index;
-        qFatal("the tree shows no entity named %ls", name.c_str());
-    }
-
-    QStringList subgroupNames(int groupRow) const
-    {
-        const CExplorerItemModel& model = window_->getModel();
-        QStringList names;
-        for (int row = 0; row < model.rowCount(model.index(groupRow, 0)); ++row)
-            names.append(model.index(row, 0, model.index(groupRow, 0)).data(Qt::EditRole).toString());
-        return names;
-    }
+    QModelIndex entityIndex(const std::wstring& name) const { return entityRow(window_->getModel(), name); }
 
     std::unique_ptr<host::CExplorerSession> session_;
     std::unique_ptr<CMainWindow> window_;

@@ -1,12 +1,16 @@
 #pragma once
 
+#include <QModelIndex>
 #include <QString>
+#include <QStringList>
+#include <string>
 
 class QTreeView;
 
 namespace aec
 {
 class IProjectExplorer;
+class IProjectExplorerGroup;
 } // namespace aec
 
 namespace aec::desktop
@@ -22,5 +26,13 @@ QString explorerMismatch(const CExplorerItemModel& model, const IProjectExplorer
 // The first group or subgroup that the view shows folded differently from the model, or an empty
 // text.
 QString foldMismatch(const QTreeView& view, const CExplorerItemModel& model);
+
+IProjectExplorerGroup& groupAt(IProjectExplorer& explorer, int row);
+// The row of the entity of that name, or an invalid index.
+QModelIndex findEntityRow(const CExplorerItemModel& model, const std::wstring& name);
+// The row of the entity of that name, which the test relies on: the test ends when there is none.
+QModelIndex entityRow(const CExplorerItemModel& model, const std::wstring& name);
+// The names of a group's subgroups as the model shows them, in order.
+QStringList subgroupNames(const CExplorerItemModel& model, int groupRow);
 
 } // namespace aec::desktop

@@ -1,4 +1,4 @@
-#include "ExplorerMirror.h"
+#include "DesktopTestSupport.h"
 
 #include "ExplorerDesktop/ExplorerItemModel.h"
 #include "ExplorerDesktop/ExplorerTreeReader.h"
@@ -94,6 +94,39 @@ QString foldMismatch(const QTreeView& view, const CExplorerItemModel& model)
         }
     }
     return {};
+}
+
+IProjectExplorerGroup& groupAt(IProjectExplorer& explorer, int row)
+{
+    auto groups = explorer.getGroups();
+    return *std::next(groups.begin(), row);
+}
+
+QModelIndex findEntityRow(const CExplorerItemModel& model, const std::wstring& name)
+{
+    for (const QModelIndex& index :
+         model.match(model.index(0, 0), Qt::EditRole, QString::fromStdWString(name), -1,
+                     Qt::MatchExactly | Qt::MatchRecursive | Qt::MatchWrap))
+        if (model.nodeAt(index)->getKind() == CExplorerTreeNode::Kind::Entity)
+            return index;
+    return {};
+}
+
+QModelIndex entityRow(const CExplorerItemModel& model, const std::wstring& name)
+{
+    const QModelIndex index = findEntityRow(model, name);
+    if (!index.isValid())
+        qFatal("the tree shows no entity named %ls", name.c_str());
+    return index;
+}
+
+QStringList subgroupNames(const CExplorerItemModel& model, int groupRow)
+{
+    const QModelIndex group = model.index(groupRow, 0);
+    QStringList names;
+    for (int row = 0; row < model.rowCount(group); ++row)
+        names.append(name(model.index(row, 0, group)));
+    return names;
 }
 
 } // namespace aec::desktop
