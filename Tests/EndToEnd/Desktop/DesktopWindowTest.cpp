@@ -23,8 +23,10 @@
 #include <QAction>
 #include <QApplication>
 #include <QFile>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -189,13 +191,18 @@ private Q_SLOTS:
         copy.trigger();
         QVERIFY(paste.isEnabled());
 
-        host::CScriptedDialogService& dialogs = session_->getHostServices().getDialogService();
-        dialogs.queueAnswer(DialogAnswer::No);
+        // The host's confirmation comes up as a message box, whose answer goes back to the library.
+        const auto answer = [this](QMessageBox::StandardButton button)
+        {
+            onNextDialog<QMessageBox>([button](QMessageBox& box) { box.button(button)->click(); });
+        };
+        answer(QMessageBox::No);
         remove.trigger();
         QVERIFY2(session_->getProject().findEntity(id) != nullptr, "answered No, nothing is deleted");
-        dialogs.queueAnswer(DialogAnswer::Yes);
+        answer(QMessageBox::Yes);
         remove.trigger();
         QCOMPARE(session_->getProject().findEntity(id), nullptr);
+        const host::CScriptedDialogService& dialogs = session_->getHostServices().getDialogService();
         QCOMPARE(dialogs.getQuestions().size(), std::size_t{2});
         QVERIFY(!window_->getModel().indexOfEntity(id).isValid());
         QVERIFY(!remove.isEnabled());
@@ -214,6 +221,29 @@ private Q_SLOTS:
         QCOMPARE(sheet.data().toString(), QString("Sheet S-1"));
     }
 
+    void savedProjectsOpenAgainAndBrokenOnesAreReported()
+    {
+        QTemporaryDir directory;
+        QVERIFY(directory.isValid());
+        const QString path = directory.filePath("plan.json");
+        CExplorerItemModel& model = window_->getModel();
+        window_->getTreeView().expand(model.index(4, 0));
+        QVERIFY(window_->saveProject(path));
+        QVERIFY(window_->windowTitle().contains("plan.json"));
+
+        QVERIFY(!window_->openProject(directory.filePath("missing.json")));
+        auto* const message = window_->findChild<QMessageBox*>();
+        QVERIFY(message != nullptr && message->text().contains("missing.json"));
+        QVERIFY(window_->windowTitle().contains("plan.json"));
+
+        session_->getPanel().toggleGroup(4);
+        QVERIFY(window_->openProject(path));
+        QVERIFY2(window_->getTreeView().isExpanded(model.index(4, 0)),
+                 "the fold state came back with the file");
+        VERIFY_EMPTY(foldMismatch(window_->getTreeView(), model));
+        VERIFY_EMPTY(explorerMismatch(model, session_->getExplorer()));
+    }
+
     void openedEntitiesShowInTabsThatFollowTheProject()
     {
         QTemporaryDir directory;
@@ -223,7 +253,14 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("Mark,Span,Load\nL1,1200\nL2,2400,12\n");
         file.close();
-        session_->getHostServices().getImportFileDialog().queueAnswer(csv.toStdWString());
+        // The host's request for a table file comes up as a file dialog.
+        onNextDialog<QFileDialog>(
+            [&csv](QFileDialog& dialog)
+            {
+                dialog.selectFile(csv);
+                // QFileDialog hides its accept(), which checks the chosen file, behind QDialog's.
+                static_cast<QDialog&>(dialog).accept();
+            });
         window_->getAction("import").trigger();
 
         const QModelIndex lintels = entityIndex(L"Lintels");
@@ -255,22 +292,31 @@ private Q_SLOTS:
         QAction& properties = window_->getAction("properties");
         QVERIFY(properties.isEnabled());
         int pages = -1;
-        QTimer::singleShot(0, this,
-                           [&pages]
-                           {
-                               auto* const dialog =
-                                   qobject_cast<CPropertiesDialog*>(QApplication::activeModalWidget());
-                               if (dialog == nullptr)
-                                   return;
-                               pages = static_cast<int>(dialog->findChildren<CEntityPage*>().size());
-                               dialog->reject();
-                           });
+        onNextDialog<CPropertiesDialog>(
+            [&pages](CPropertiesDialog& dialog)
+            {
+                pages = static_cast<int>(dialog.findChildren<CEntityPage*>().size());
+                dialog.reject();
+            });
         properties.trigger();
         QCOMPARE(pages, 2);
     }
 
 private:
     IProjectExplorerGroup& group(int row) { return groupAt(session_->getExplorer(), row); }
+
+    // Acts on the next modal dialog of that kind once it shows and waits for the user.
+    template <class Dialog, class Action>
+    void onNextDialog(Action action)
+    {
+        QTimer::singleShot(0, this,
+                           [action]
+                           {
+                               if (auto* const dialog =
+                                       qobject_cast<Dialog*>(QApplication::activeModalWidget()))
+                                   action(*dialog);
+                           });
+    }
 
     QModelIndex entityIndex(const std::wstring& name) const { return entityRow(window_->getModel(), name); }
 
