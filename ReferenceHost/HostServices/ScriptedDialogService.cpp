@@ -12,7 +12,7 @@ DialogAnswer CScriptedDialogService::ask(const std::wstring& title, const std::w
 {
     questions_.push_back(Question{title, question, buttonSet});
     if (answers_.empty())
-        return defaultAnswer_;
+        return askCallback_ ? askCallback_(questions_.back()) : defaultAnswer_;
     const DialogAnswer answer = answers_.front();
     answers_.pop_front();
     return answer;

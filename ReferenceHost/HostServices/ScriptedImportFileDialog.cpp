@@ -11,7 +11,7 @@ std::wstring CScriptedImportFileDialog::askForFile() const
 {
     ++askCount_;
     if (answers_.empty())
-        return {};
+        return askCallback_ ? askCallback_() : std::wstring();
     std::wstring answer = std::move(answers_.front());
     answers_.pop_front();
     return answer;

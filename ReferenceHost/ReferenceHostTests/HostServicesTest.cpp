@@ -94,6 +94,51 @@ TEST(ScriptedDialogsTest, AnswersComeFromTheQueueThenFromTheDefault)
     EXPECT_EQ(files.getAskCount(), 2u);
 }
 
+TEST(ScriptedDialogsTest, AWindowedHostAnswersWhatTheQueueLeavesOpen)
+{
+    CScriptedDialogService dialogs;
+    std::vector<std::wstring> putToUser;
+    dialogs.setAskCallback(
+        [&putToUser](const CScriptedDialogService::Question& question)
+        {
+            putToUser.push_back(question.text);
+            return DialogAnswer::Yes;
+        });
+    dialogs.queueAnswer(DialogAnswer::No);
+    EXPECT_EQ(dialogs.ask(L"Delete", L"Q1", dialogButtonsYesNo), DialogAnswer::No);
+    EXPECT_EQ(dialogs.ask(L"Delete", L"Q2", dialogButtonsYesNo), DialogAnswer::Yes);
+    EXPECT_EQ(putToUser, std::vector<std::wstring>{L"Q2"});
+    EXPECT_EQ(dialogs.getQuestions().size(), 2u) << "questions the user answered are kept too";
+    dialogs.setAskCallback(nullptr);
+    EXPECT_EQ(dialogs.ask(L"Delete", L"Q3", dialogButtonsYesNo), DialogAnswer::No);
+
+    CScriptedImportFileDialog files;
+    files.setAskCallback([] { return std::wstring(L"/tmp/chosen.csv"); });
+    files.queueAnswer(L"/tmp/queued.csv");
+    EXPECT_EQ(files.askForFile(), L"/tmp/queued.csv");
+    EXPECT_EQ(files.askForFile(), L"/tmp/chosen.csv");
+    EXPECT_EQ(files.getAskCount(), 2u);
+}
+
+TEST(ProxyAppGuiTest, TheOpenCallbackReachesDocumentsShownBeforeAndAfter)
+{
+    CProxyAppGui application;
+    CDocumentGui& before = application.showDocument(1);
+    std::vector<EntityIdList> shown;
+    application.setOpenCallback([&shown](const EntityIdList& entities) { shown.push_back(entities); });
+    CDocumentGui& after = application.showDocument(2);
+    const EntityId plan(common::UUID::create());
+    const EntityId section(common::UUID::create());
+    before.openEntities({plan});
+    after.openEntities({section});
+    EXPECT_EQ(shown, (std::vector<EntityIdList>{{plan}, {section}}));
+
+    application.setOpenCallback(nullptr);
+    after.openEntities({plan});
+    EXPECT_EQ(shown.size(), 2u);
+    EXPECT_EQ(after.getOpenedEntities().size(), 2u);
+}
+
 TEST(ProxyAppGuiTest, EachShownDocumentHasOneUserInterfaceThatCallsTheHost)
 {
     CHostServices services;

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "aec/ContextMenuItem.h"
+
+#include <cstddef>
+#include <vector>
+
+class QAction;
+class QMenu;
+
+namespace aec::desktop
+{
+
+// Fills the menu with the items of a context menu that the GUI showed: an action for each command
+// item (greyed when disabled), a line for each separator, a submenu for each item with sub-items.
+// Each action carries the item's path (its index, then the indices of sub-items), by which the GUI
+// runs the chosen item.
+void fillContextMenu(QMenu& menu, const std::vector<CContextMenuItem>& items);
+
+// The path of an action that fillContextMenu made; empty for any other action.
+std::vector<std::size_t> contextMenuPath(const QAction& action);
+
+} // namespace aec::desktop

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QSize>
+#include <QString>
+#include <boost/signals2/connection.hpp>
+#include <memory>
+
+namespace aec::host
+{
+class CExplorerSession;
+} // namespace aec::host
+
+namespace aec::desktop
+{
+
+class CCommandRunner;
+class CDocumentArea;
+class CExplorerItemModel;
+class CExplorerSelectionModel;
+class CExplorerTreeView;
+class CGroupingBar;
+class CHostDialogs;
+class CPropertyContext;
+
+// The desktop program's window over an explorer session: the explorer's tree with the grouping
+// bar of the group the user works in, the opened entities beside it, the File and Edit menus, and
+// the status line. Every command goes through the session's GUI, panel or controller as the host
+// application's own would; a command that fails is reported in a message box and changes nothing.
+class CMainWindow final : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    static constexpr QSize initialSize{1100, 720};
+
+    explicit CMainWindow(host::CExplorerSession& session, QWidget* parent = nullptr);
+    ~CMainWindow() override;
+
+    // File > Open and Save with a chosen file; false when it failed (and was reported).
+    bool openProject(const QString& path);
+    bool saveProject(const QString& path);
+    // Names the window after what it shows; an empty path is the sample project.
+    void setProjectPath(const QString& path);
+
+    CCommandRunner& getCommandRunner() noexcept { return *runner_; }
+    CExplorerItemModel& getModel() noexcept { return *model_; }
+    CExplorerSelectionModel& getSelectionModel() noexcept { return *selection_; }
+    CExplorerTreeView& getTreeView() noexcept { return *tree_; }
+    CGroupingBar& getGroupingBar() noexcept { return *groupingBar_; }
+    CDocumentArea& getDocumentArea() noexcept { return *documents_; }
+    // The menus' actions, by their object names ("undo", "delete", "import", ...), for tests.
+    QAction& getAction(const QString& name) const;
+
+private:
+    void makeMenus();
+    QAction* addAction(QMenu& menu, const QString& name, const QString& text, const QKeySequence& shortcut);
+    QAction* addCommandAction(QMenu& menu, const QString& name, const QString& text,
+                              const QKeySequence& shortcut, int command);
+    void updateActions();
+    void showFailure(const QString& message);
+    void showContextMenu(const QPoint& position);
+    void openFromDialog();
+    void saveFromDialog(bool chooseFile);
+    void openEntity(const QModelIndex& index);
+    void renameSelected();
+    // Gives the open project's document the window's property context, unless it has one.
+    void installPropertyContext();
+    void uninstallPropertyContext() noexcept;
+
+    host::CExplorerSession& session_;
+    QString projectPath_;
+    CCommandRunner* runner_;
+    CExplorerItemModel* model_;
+    CExplorerSelectionModel* selection_;
+    CExplorerTreeView* tree_;
+    CGroupingBar* groupingBar_;
+    CDocumentArea* documents_;
+    CHostDialogs* dialogs_;
+    std::unique_ptr<CPropertyContext> propertyContext_;
+    boost::signals2::scoped_connection status_;
+};
+
+} // namespace aec::desktop

@@ -1,0 +1,389 @@
+#include "AecModel/Project.h"
+#include "AecModel/SampleProject.h"
+#include "DesktopTestSupport.h"
+#include "ExplorerDesktop/CommandRunner.h"
+#include "ExplorerDesktop/ContextMenuBuilder.h"
+#include "ExplorerDesktop/ExplorerItemModel.h"
+#include "ExplorerDesktop/ExplorerSelectionModel.h"
+#include "HostFrame/ExplorerPanel.h"
+#include "HostFrame/ExplorerSession.h"
+#include "HostFrame/GroupingButtons.h"
+#include "HostFrame/Gui.h"
+#include "HostServices/HostServices.h"
+#include "aec/Commands.h"
+#include "aec/ProjectExplorer.h"
+#include "aec/ProjectExplorerEntitySelection.h"
+#include "aec/ProjectExplorerGroup.h"
+#include "aec/ProjectExplorerGroupInfo.h"
+#include "aec/ProjectExplorerSubgroup.h"
+#include "aec/TextIds.h"
+
+#include <QAbstractItemModelTester>
+#include <QAction>
+#include <QFile>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <algorithm>
+#include <memory>
+
+#define VERIFY_MODEL_MIRRORS_EXPLORER()                                                                      \
+    do                                                                                                       \
+    {                                                                                                        \
+        const QString mismatch = explorerMismatch(*model_, session_->getExplorer());                         \
+        QVERIFY2(mismatch.isEmpty(), qPrintable(mismatch));                                                  \
+        QCOMPARE(selection_->getSelectedEntities(), session_->getSelection());                               \
+    } while (false)
+
+namespace aec::desktop
+{
+
+// The item model and its selection model over a real explorer session on the sample project,
+// without any view: every command of the explorer changes the project, and the model must follow
+// each change (and its undo and redo) with item-model signals that Qt's model tester accepts.
+class DesktopModelTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        session_ = std::make_unique<host::CExplorerSession>(42);
+        session_->open(model::buildSampleProject());
+        runner_ = std::make_unique<CCommandRunner>();
+        model_ = std::make_unique<CExplorerItemModel>(*session_, *runner_);
+        tester_ = std::make_unique<QAbstractItemModelTester>(
+            model_.get(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+        selection_ = std::make_unique<CExplorerSelectionModel>(*model_, session_->getPanel(), *runner_);
+        failures_ = std::make_unique<QSignalSpy>(runner_.get(), &CCommandRunner::failed);
+    }
+
+    void cleanup()
+    {
+        failures_.reset();
+        selection_.reset();
+        tester_.reset();
+        model_.reset();
+        runner_.reset();
+        session_.reset();
+    }
+
+    void foldsGoThroughThePanelAndComeBack()
+    {
+        QSignalSpy folds(model_.get(), &CExplorerItemModel::expandedChanged);
+        const QModelIndex sheets = model_->index(0, 0);
+        model_->setExpanded(sheets, true);
+        QVERIFY(group(0).isExpanded());
+        QVERIFY(model_->isExpanded(sheets));
+        QCOMPARE(folds.count(), 1);
+
+        const QModelIndex ungrouped = model_->index(0, 0, sheets);
+        model_->setExpanded(ungrouped, true);
+        QVERIFY(group(0).getSubgroups().begin()->isExpanded());
+
+        // A fold from elsewhere (a click in the panel) reaches the model and its views.
+        session_->getPanel().toggleGroup(2);
+        QVERIFY(model_->isExpanded(model_->index(2, 0)));
+        QCOMPARE(folds.count(), 3);
+        QCOMPARE(folds.last().at(0).value<QModelIndex>(), model_->index(2, 0));
+
+        // Entities do not fold, and asking for the state the explorer has already does nothing.
+        model_->setExpanded(model_->index(0, 0, ungrouped), true);
+        model_->setExpanded(sheets, true);
+        QCOMPARE(folds.count(), 3);
+        QVERIFY(group(0).isExpanded());
+        VERIFY_MODEL_MIRRORS_EXPLORER();
+    }
+
+    void selectionGoesBothWays()
+    {
+        const QModelIndex doorSchedule = entityIndex(L"Door schedule");
+        selection_->select(doorSchedule, QItemSelectionModel::ClearAndSelect);
+        QCOMPARE(session_->getSelection(), EntityIdSet{entityNamed(L"Door schedule")});
+        // The explorer unfolds what holds a selected entity, and the model follows.
+        QVERIFY(model_->isExpanded(doorSchedule.parent()));
+        QVERIFY(model_->isExpanded(doorSchedule.parent().parent()));
+
+        const EntityId roomList = entityNamed(L"Room list 2");
+        session_->getPanel().changeSelection({roomList}, {});
+        QVERIFY(selection_->isSelected(model_->indexOfEntity(roomList)));
+        QVERIFY(selection_->isSelected(doorSchedule));
+
+        // Group and subgroup rows are not selectable: selecting one leaves the explorer's selection empty.
+        selection_->select(model_->index(0, 0), QItemSelectionModel::ClearAndSelect);
+        QVERIFY(session_->getSelection().empty());
+        QCOMPARE(failures_->count(), 0);
+        VERIFY_MODEL_MIRRORS_EXPLORER();
+    }
+
+    void regroupingAndSortingKeepTheRowsOfSubgroupsThatStay()
+    {
+        chooseButton(&host::GroupingButtonIds::groupCriterion, topicCriterion());
+        VERIFY_MODEL_MIRRORS_EXPLORER();
+        const QModelIndex sheets = model_->index(0, 0);
+        QVERIFY(model_->rowCount(sheets) > 2);
+
+        const QModelIndex structureRow = subgroupIndex(0, L"Structure");
+        model_->setExpanded(structureRow, true);
+        const QPersistentModelIndex structure(structureRow);
+        const QPersistentModelIndex firstSheet(model_->index(0, 0, structure));
+        const int ascendingRow = structure.row();
+
+        chooseButton(&host::GroupingButtonIds::sortOrder, L"2");
+        VERIFY_MODEL_MIRRORS_EXPLORER();
+        QVERIFY(structure.isValid());
+        QCOMPARE(structure.row(), model_->rowCount(sheets) - 1 - ascendingRow);
+        QVERIFY2(model_->isExpanded(structure), "a subgroup that keeps its name keeps its fold state");
+        QCOMPARE(firstSheet.parent(), QModelIndex(structure));
+
+        chooseButton(&host::GroupingButtonIds::groupCriterion, L"0");
+        VERIFY_MODEL_MIRRORS_EXPLORER();
+        QVERIFY2(!structure.isValid(), "the topic's subgroup is gone with the grouping");
+        QCOMPARE(model_->rowCount(sheets), 1);
+        QCOMPARE(model_->index(0, 0, sheets).data(Qt::EditRole).toString(), QString("All"));
+        QCOMPARE(failures_->count(), 0);
+    }
+
+    void renameMovesTheRowAndUndoMovesItBack()
+    {
+        const EntityId cover = entityNamed(L"Cover sheet");
+        const QPersistentModelIndex row(model_->indexOfEntity(cover));
+        QCOMPARE(row.row(), 0);
+        QVERIFY(model_->setData(row, QString("Zoning plan")));
+        QCOMPARE(row.data().toString(), QString("Zoning plan"));
+        QCOMPARE(row.row(), model_->rowCount(row.parent()) - 1);
+        QCOMPARE(undoNames().size(), std::size_t{1});
+        VERIFY_MODEL_MIRRORS_EXPLORER();
+
+        session_->getUndoHistory().undo();
+        QCOMPARE(row.data().toString(), QString("Cover sheet"));
+        QCOMPARE(row.row(), 0);
+        session_->getUndoHistory().redo();
+        QCOMPARE(row.data().toString(), QString("Zoning plan"));
+        VERIFY_MODEL_MIRRORS_EXPLORER();
+    }
+
+    void aFailedRenameIsReportedAndChangesNothing()
+    {
+        const std::string before = session_->getProject().canonicalDump();
+        const QModelIndex cover = model_->indexOfEntity(entityNamed(L"Cover sheet"));
+        QVERIFY(!model_->setData(cover, QString("Sheet A-3")));
+        QCOMPARE(failures_->count(), 1);
+        QVERIFY(!failures_->front().front().toString().isEmpty());
+        QCOMPARE(session_->getProject().canonicalDump(), before);
+        QCOMPARE(cover.data().toString(), QString("Cover sheet"));
+
+        // Topics are not renamable: the model refuses without asking the controller.
+        const QModelIndex topic = entityIndex(L"Structure");
+        QVERIFY(!(model_->flags(topic) & Qt::ItemIsEditable));
+        QVERIFY(!model_->setData(topic, QString("Statics")));
+        QCOMPARE(failures_->count(), 1);
+        QCOMPARE(session_->getProject().canonicalDump(), before);
+    }
+
+    void deleteCopyPasteImportAndTopicChangeFollowTheProjectThroughUndoAndRedo()
+    {
+        host::CHostServices& services = session_->getHostServices();
+        host::CGui& gui = session_->getGui();
+        const EntityId roof = entityNamed(L"Roof R-9");
+        const EntityId ceiling = entityNamed(L"Ceiling C-1");
+        selection_->select(model_->indexOfEntity(roof), QItemSelectionModel::ClearAndSelect);
+        selection_->select(model_->indexOfEntity(ceiling), QItemSelectionModel::Select);
+        QCOMPARE(session_->getSelection(), (EntityIdSet{roof, ceiling}));
+
+        services.getDialogService().queueAnswer(DialogAnswer::Yes);
+        gui.runCommand(commands::deleteSelection);
+        QVERIFY(!model_->indexOfEntity(roof).isValid());
+        QVERIFY(!model_->indexOfEntity(ceiling).isValid());
+        QVERIFY(selection_->getSelectedEntities().empty());
+        VERIFY_MODEL_MIRRORS_EXPLORER();
+        checkUndoAndRedo([&] { return model_->indexOfEntity(roof).isValid(); });
+
+        const EntityId brick = entityNamed(L"Brick 240");
+        selection_->select(model_->indexOfEntity(brick), QItemSelectionModel::ClearAndSelect);
+        gui.runCommand(commands::copy);
+        gui.runCommand(commands::paste);
+        QVERIFY(entityIndex(L"Brick 240 (2)").isValid());
+        VERIFY_MODEL_MIRRORS_EXPLORER();
+        checkUndoAndRedo([&] { return findEntityIndex(L"Brick 240 (2)").isValid(); });
+
+        QTemporaryDir directory;
+        QVERIFY(directory.isValid());
+        const QString csv = directory.filePath("Fire doors.csv");
+        QFile file(csv);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("Mark,Rating\nD1,T30\nD2,T90\n");
+        file.close();
+        const int tablesBefore = model_->index(1, 0).data(CExplorerItemModel::EntityCountRole).toInt();
+        services.getImportFileDialog().queueAnswer(csv.toStdWString());
+        gui.runCommand(commands::importTable);
+        QCOMPARE(model_->index(1, 0).data(CExplorerItemModel::EntityCountRole).toInt(), tablesBefore + 1);
+        QVERIFY(entityIndex(L"Fire doors").isValid());
+        VERIFY_MODEL_MIRRORS_EXPLORER();
+        checkUndoAndRedo([&] { return findEntityIndex(L"Fire doors").isValid(); });
+
+        chooseButton(&host::GroupingButtonIds::groupCriterion, topicCriterion());
+        const EntityId cover = entityNamed(L"Cover sheet");
+        selection_->select(model_->indexOfEntity(cover), QItemSelectionModel::ClearAndSelect);
+        chooseFromContextMenu({text_ids::changeTopic}, L"Structure");
+        QCOMPARE(model_->indexOfEntity(cover).parent(), subgroupIndex(0, L"Structure"));
+        VERIFY_MODEL_MIRRORS_EXPLORER();
+        checkUndoAndRedo([&]
+                         { return model_->indexOfEntity(cover).parent() == subgroupIndex(0, L"Structure"); });
+        QCOMPARE(failures_->count(), 0);
+    }
+
+    void contextMenuShowsEachItemAndRunsTheChosenOne()
+    {
+        const EntityId door = entityNamed(L"Door 900");
+        selection_->select(model_->indexOfEntity(door), QItemSelectionModel::ClearAndSelect);
+        host::CGui& gui = session_->getGui();
+        gui.requestContextMenu({});
+        const std::vector<CContextMenuItem> items = gui.getLastContextMenu();
+        QMenu menu;
+        fillContextMenu(menu, items);
+        const QList<QAction*> actions = menu.actions();
+        QCOMPARE(static_cast<std::size_t>(actions.size()), items.size());
+        QAction* copy = nullptr;
+        for (std::size_t index = 0; index < items.size(); ++index)
+        {
+            const QAction& action = *actions[static_cast<qsizetype>(index)];
+            const CContextMenuItem& item = items[index];
+            QCOMPARE(action.isSeparator(), item.isSeparator());
+            if (item.isSeparator())
+                continue;
+            QCOMPARE(action.text(), QString::fromStdWString(item.getText()));
+            QCOMPARE(action.isEnabled(), item.isEnabled());
+            QCOMPARE(action.menu() != nullptr, !item.getSubItems().empty());
+            if (action.menu() != nullptr)
+            {
+                QCOMPARE(static_cast<std::size_t>(action.menu()->actions().size()),
+                         item.getSubItems().size());
+                QCOMPARE(contextMenuPath(*action.menu()->actions().back()),
+                         (std::vector<std::size_t>{index, item.getSubItems().size() - 1}));
+            }
+            else
+                QCOMPARE(contextMenuPath(action), std::vector<std::size_t>{index});
+            if (item.getText() == session_->getHostServices().getTranslation().getText(text_ids::copy))
+                copy = actions[static_cast<qsizetype>(index)];
+        }
+        QVERIFY(copy != nullptr);
+        QVERIFY(!gui.canRunCommand(commands::paste));
+        gui.chooseContextMenuItem(contextMenuPath(*copy));
+        QVERIFY2(gui.canRunCommand(commands::paste), "the copy item put the door style on the clipboard");
+    }
+
+    void aReopenedProjectShowsTheFoldsAndGroupingItWasSavedWith()
+    {
+        model_->setExpanded(model_->index(0, 0), true);
+        chooseButton(&host::GroupingButtonIds::groupCriterion, topicCriterion());
+        chooseButton(&host::GroupingButtonIds::sortOrder, L"2");
+        model_->setExpanded(subgroupIndex(0, L"Structure"), true);
+        const QStringList subgroupsBefore = subgroupNames(*model_, 0);
+
+        QTemporaryDir directory;
+        QVERIFY(directory.isValid());
+        const std::filesystem::path file = directory.filePath("project.json").toStdWString();
+        session_->save(file);
+        session_->load(file);
+
+        VERIFY_MODEL_MIRRORS_EXPLORER();
+        QVERIFY(model_->isExpanded(model_->index(0, 0)));
+        QCOMPARE(subgroupNames(*model_, 0), subgroupsBefore);
+        QVERIFY(model_->isExpanded(subgroupIndex(0, L"Structure")));
+        QVERIFY(!model_->isExpanded(model_->index(1, 0)));
+        QVERIFY2(undoNames().empty(), "a loaded project starts without history");
+
+        session_->close();
+        QCOMPARE(model_->rowCount(), 0);
+    }
+
+private:
+    IProjectExplorerGroup& group(int row) { return groupAt(session_->getExplorer(), row); }
+
+    EntityId entityNamed(const std::wstring& name)
+    {
+        for (int collection = 0; collection < entityCollectionCount; ++collection)
+            for (const EntityId& id :
+                 session_->getProject().getEntities(static_cast<EntityCollection>(collection)))
+                if (session_->getProject().findEntity(id)->getName() == name)
+                    return id;
+        qFatal("the sample project has no entity named %ls", name.c_str());
+    }
+
+    QModelIndex findEntityIndex(const std::wstring& name) const { return findEntityRow(*model_, name); }
+
+    QModelIndex entityIndex(const std::wstring& name) const { return entityRow(*model_, name); }
+
+    QModelIndex subgroupIndex(int groupRow, const std::wstring& name) const
+    {
+        const QModelIndex group = model_->index(groupRow, 0);
+        for (int row = 0; row < model_->rowCount(group); ++row)
+            if (model_->index(row, 0, group).data(Qt::EditRole).toString() == QString::fromStdWString(name))
+                return model_->index(row, 0, group);
+        return {};
+    }
+
+    std::vector<std::string> undoNames() const { return session_->getUndoHistory().getUndoNames(); }
+
+    // The value of the sheets' criterion button that groups by topic.
+    std::wstring topicCriterion() const
+    {
+        const host::GroupingButtonIds buttons =
+            host::groupingButtonsOf(projectExplorerGroups().front()).value();
+        for (const host::CGui::ButtonItem& item :
+             session_->getGui().getButtonItems(buttons.panel, buttons.groupCriterion))
+            if (item.value != L"0")
+                return item.value;
+        qFatal("the sheets offer no grouping");
+    }
+
+    void chooseButton(std::uint32_t host::GroupingButtonIds::*button, const std::wstring& value)
+    {
+        const host::GroupingButtonIds buttons =
+            host::groupingButtonsOf(projectExplorerGroups().front()).value();
+        session_->getGui().chooseButtonValue(buttons.panel, buttons.*button, value);
+    }
+
+    // Chooses the submenu item of the context menu by the submenu's text number and the item's text.
+    void chooseFromContextMenu(int submenuText, const std::wstring& itemText)
+    {
+        host::CGui& gui = session_->getGui();
+        gui.requestContextMenu({});
+        const std::vector<CContextMenuItem>& items = gui.getLastContextMenu();
+        const std::wstring submenu = session_->getHostServices().getTranslation().getText(submenuText);
+        const auto parent = std::ranges::find(items, submenu, &CContextMenuItem::getText);
+        QVERIFY(parent != items.end());
+        const auto child = std::ranges::find(parent->getSubItems(), itemText, &CContextMenuItem::getText);
+        QVERIFY(child != parent->getSubItems().end());
+        gui.chooseContextMenuItem(
+            std::vector<std::size_t>{static_cast<std::size_t>(parent - items.begin()),
+                                     static_cast<std::size_t>(child - parent->getSubItems().begin())});
+    }
+
+    // Undoes the last step and redoes it, checking that the model follows both ways.
+    template <class Predicate>
+    void checkUndoAndRedo(Predicate holdsBefore)
+    {
+        const bool before = holdsBefore();
+        session_->getUndoHistory().undo();
+        QCOMPARE(holdsBefore(), !before);
+        VERIFY_MODEL_MIRRORS_EXPLORER();
+        session_->getUndoHistory().redo();
+        QCOMPARE(holdsBefore(), before);
+        VERIFY_MODEL_MIRRORS_EXPLORER();
+    }
+
+    std::unique_ptr<host::CExplorerSession> session_;
+    std::unique_ptr<CCommandRunner> runner_;
+    std::unique_ptr<CExplorerItemModel> model_;
+    std::unique_ptr<QAbstractItemModelTester> tester_;
+    std::unique_ptr<CExplorerSelectionModel> selection_;
+    std::unique_ptr<QSignalSpy> failures_;
+};
+
+} // namespace aec::desktop
+
+QTEST_MAIN(aec::desktop::DesktopModelTest)
+#include "DesktopModelTest.moc"

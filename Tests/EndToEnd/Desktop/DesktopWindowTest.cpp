@@ -1,0 +1,330 @@
+#include "AecModel/Project.h"
+#include "AecModel/SampleProject.h"
+#include "DesktopTestSupport.h"
+#include "ExplorerDesktop/ButtonComboBox.h"
+#include "ExplorerDesktop/DocumentArea.h"
+#include "ExplorerDesktop/EntityPage.h"
+#include "ExplorerDesktop/ExplorerItemModel.h"
+#include "ExplorerDesktop/ExplorerSelectionModel.h"
+#include "ExplorerDesktop/ExplorerTreeView.h"
+#include "ExplorerDesktop/GroupingBar.h"
+#include "ExplorerDesktop/MainWindow.h"
+#include "ExplorerDesktop/PropertiesDialog.h"
+#include "HostFrame/ExplorerPanel.h"
+#include "HostFrame/ExplorerSession.h"
+#include "HostFrame/GroupingButtons.h"
+#include "HostServices/HostServices.h"
+#include "aec/ProjectExplorer.h"
+#include "aec/ProjectExplorerGroup.h"
+#include "aec/ProjectExplorerGroupInfo.h"
+#include "aec/ProjectExplorerSubgroup.h"
+#include "aec/TextIds.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <memory>
+
+#define VERIFY_EMPTY(text)                                                                                   \
+    do                                                                                                       \
+    {                                                                                                        \
+        const QString mismatch = (text);                                                                     \
+        QVERIFY2(mismatch.isEmpty(), qPrintable(mismatch));                                                  \
+    } while (false)
+
+namespace aec::desktop
+{
+
+// The main window over a real explorer session on the sample project, shown on Qt's offscreen
+// platform: the tree's fold state and selection against the explorer's in both directions, the
+// grouping bar, in-place renaming, the Edit menu, error reports, and opened documents.
+class DesktopWindowTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        session_ = std::make_unique<host::CExplorerSession>(7);
+        session_->open(model::buildSampleProject());
+        window_ = std::make_unique<CMainWindow>(*session_);
+        window_->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
+    }
+
+    void cleanup()
+    {
+        window_.reset();
+        session_.reset();
+    }
+
+    void foldStateGoesBothWays()
+    {
+        CExplorerTreeView& tree = window_->getTreeView();
+        CExplorerItemModel& model = window_->getModel();
+        tree.expand(model.index(0, 0));
+        QVERIFY(group(0).isExpanded());
+        tree.expand(model.index(0, 0, model.index(0, 0)));
+        QVERIFY(group(0).getSubgroups().begin()->isExpanded());
+        tree.collapse(model.index(0, 0));
+        QVERIFY(!group(0).isExpanded());
+        QVERIFY2(group(0).getSubgroups().begin()->isExpanded(), "a folded group keeps its subgroups' folds");
+
+        session_->getPanel().toggleGroup(3);
+        QVERIFY(tree.isExpanded(model.index(3, 0)));
+        session_->getPanel().toggleSubgroup(3, 0);
+        QVERIFY(tree.isExpanded(model.index(0, 0, model.index(3, 0))));
+        VERIFY_EMPTY(foldMismatch(tree, model));
+        VERIFY_EMPTY(explorerMismatch(model, session_->getExplorer()));
+    }
+
+    void selectionGoesBothWaysAndUnfoldsWhatItShows()
+    {
+        CExplorerTreeView& tree = window_->getTreeView();
+        CExplorerItemModel& model = window_->getModel();
+        const QModelIndex rebar = entityIndex(L"Rebar 10");
+        tree.selectionModel()->select(rebar, QItemSelectionModel::ClearAndSelect);
+        QCOMPARE(session_->getSelection(), EntityIdSet{model.nodeAt(rebar)->getEntity()});
+        QVERIFY2(tree.isExpanded(rebar.parent().parent()),
+                 "the explorer unfolded the group, and the view too");
+        QVERIFY(tree.isExpanded(rebar.parent()));
+
+        const QModelIndex logo = entityIndex(L"Logo");
+        session_->getPanel().changeSelection({model.nodeAt(logo)->getEntity()},
+                                             {model.nodeAt(rebar)->getEntity()});
+        QCOMPARE(tree.selectionModel()->selectedIndexes(), QModelIndexList{logo});
+        QVERIFY(tree.isExpanded(logo.parent()));
+        VERIFY_EMPTY(foldMismatch(tree, model));
+    }
+
+    void theGroupingBarFollowsTheCurrentGroupAndRegroupsIt()
+    {
+        CGroupingBar& bar = window_->getGroupingBar();
+        CExplorerItemModel& model = window_->getModel();
+        const host::GroupingButtonIds sheets = host::groupingButtonsOf(projectExplorerGroups()[0]).value();
+        QCOMPARE(bar.getCriterionBox().getButton(),
+                 std::optional(host::CGui::Button{sheets.panel, sheets.groupCriterion}));
+        QCOMPARE(bar.getCriterionBox().currentData().toString(), QString("0"));
+        QCOMPARE(bar.getSortOrderBox().count(), 2);
+
+        window_->getTreeView().setCurrentIndex(entityIndex(L"Door schedule"));
+        const host::GroupingButtonIds tables = host::groupingButtonsOf(projectExplorerGroups()[1]).value();
+        QCOMPARE(bar.getSortOrderBox().getButton(),
+                 std::optional(host::CGui::Button{tables.panel, tables.sortOrder}));
+
+        const int topic = bar.getCriterionBox().findData(QString("0")) == 0 ? 1 : 0;
+        QVERIFY(bar.getCriterionBox().chooseValue(bar.getCriterionBox().itemData(topic).toString()));
+        QVERIFY(model.rowCount(model.index(1, 0)) > 1);
+        QCOMPARE(bar.getCriterionBox().currentIndex(), topic);
+        QVERIFY(bar.getSortOrderBox().chooseValue("2"));
+        VERIFY_EMPTY(explorerMismatch(model, session_->getExplorer()));
+        const QStringList descending = subgroupNames(window_->getModel(), 1);
+        QVERIFY(bar.getSortOrderBox().chooseValue("1"));
+        QStringList ascending = subgroupNames(window_->getModel(), 1);
+        std::reverse(ascending.begin(), ascending.end());
+        QCOMPARE(ascending, descending);
+
+        // A group without grouping has no buttons.
+        window_->getTreeView().setCurrentIndex(entityIndex(L"Logo"));
+        QVERIFY(!bar.getCriterionBox().isEnabled());
+        QVERIFY(!bar.getCriterionBox().chooseValue("0"));
+    }
+
+    void renameStartsInPlaceAndTheEditMenuUndoesIt()
+    {
+        const QModelIndex door = entityIndex(L"Door 1000");
+        const EntityId id = window_->getModel().nodeAt(door)->getEntity();
+        window_->getTreeView().selectionModel()->select(door, QItemSelectionModel::ClearAndSelect);
+        QAction& rename = window_->getAction("rename");
+        QVERIFY(rename.isEnabled());
+        QCOMPARE(rename.shortcut(), QKeySequence(Qt::Key_F2));
+        rename.trigger();
+        QVERIFY(window_->getTreeView().isEditing());
+
+        auto* const editor = window_->getTreeView().findChild<QLineEdit*>();
+        QVERIFY(editor != nullptr);
+        editor->setText("Door 1010");
+        QTest::keyClick(editor, Qt::Key_Return);
+        // The delegate commits the name from the event loop.
+        QTRY_COMPARE(QString::fromStdWString(session_->getProject().findEntity(id)->getName()),
+                     QString("Door 1010"));
+        QVERIFY(!window_->getTreeView().isEditing());
+
+        QAction& undo = window_->getAction("undo");
+        const QString stepName = QString::fromStdString(session_->getUndoHistory().getUndoName().value());
+        QVERIFY2(undo.text().endsWith(stepName), qPrintable(undo.text()));
+        undo.trigger();
+        QCOMPARE(QString::fromStdWString(session_->getProject().findEntity(id)->getName()),
+                 QString("Door 1000"));
+        QVERIFY(window_->getAction("redo").text().endsWith(stepName));
+        QVERIFY(!undo.isEnabled());
+
+        // Entities of groups without grouping are not renamable.
+        window_->getTreeView().selectionModel()->select(entityIndex(L"Logo"),
+                                                        QItemSelectionModel::ClearAndSelect);
+        QVERIFY(!rename.isEnabled());
+    }
+
+    void editActionsFollowTheSelectionAndDeleteAsksFirst()
+    {
+        QAction& remove = window_->getAction("delete");
+        QAction& copy = window_->getAction("copy");
+        QAction& paste = window_->getAction("paste");
+        QCOMPARE(remove.shortcut(), QKeySequence(QKeySequence::Delete));
+        QVERIFY(!remove.isEnabled());
+        QVERIFY(!copy.isEnabled());
+        QVERIFY(!paste.isEnabled());
+
+        const QModelIndex glass = entityIndex(L"Glass 8mm");
+        const EntityId id = window_->getModel().nodeAt(glass)->getEntity();
+        window_->getTreeView().selectionModel()->select(glass, QItemSelectionModel::ClearAndSelect);
+        QVERIFY(remove.isEnabled());
+        QVERIFY(copy.isEnabled());
+        copy.trigger();
+        QVERIFY(paste.isEnabled());
+
+        // The host's confirmation comes up as a message box, whose answer goes back to the library.
+        const auto answer = [this](QMessageBox::StandardButton button)
+        {
+            onNextDialog<QMessageBox>([button](QMessageBox& box) { box.button(button)->click(); });
+        };
+        answer(QMessageBox::No);
+        remove.trigger();
+        QVERIFY2(session_->getProject().findEntity(id) != nullptr, "answered No, nothing is deleted");
+        answer(QMessageBox::Yes);
+        remove.trigger();
+        QCOMPARE(session_->getProject().findEntity(id), nullptr);
+        const host::CScriptedDialogService& dialogs = session_->getHostServices().getDialogService();
+        QCOMPARE(dialogs.getQuestions().size(), std::size_t{2});
+        QVERIFY(!window_->getModel().indexOfEntity(id).isValid());
+        QVERIFY(!remove.isEnabled());
+    }
+
+    void aFailedCommandIsShownAndChangesNothing()
+    {
+        const std::string before = session_->getProject().canonicalDump();
+        const QModelIndex sheet = entityIndex(L"Sheet S-1");
+        QVERIFY(!window_->getModel().setData(sheet, QString("Sheet S-2")));
+        auto* const message = window_->findChild<QMessageBox*>();
+        QVERIFY(message != nullptr);
+        QVERIFY(message->isVisible());
+        QVERIFY(message->text().contains("Sheet S-2"));
+        QCOMPARE(session_->getProject().canonicalDump(), before);
+        QCOMPARE(sheet.data().toString(), QString("Sheet S-1"));
+    }
+
+    void savedProjectsOpenAgainAndBrokenOnesAreReported()
+    {
+        QTemporaryDir directory;
+        QVERIFY(directory.isValid());
+        const QString path = directory.filePath("plan.json");
+        CExplorerItemModel& model = window_->getModel();
+        window_->getTreeView().expand(model.index(4, 0));
+        QVERIFY(window_->saveProject(path));
+        QVERIFY(window_->windowTitle().contains("plan.json"));
+
+        QVERIFY(!window_->openProject(directory.filePath("missing.json")));
+        auto* const message = window_->findChild<QMessageBox*>();
+        QVERIFY(message != nullptr && message->text().contains("missing.json"));
+        QVERIFY(window_->windowTitle().contains("plan.json"));
+
+        session_->getPanel().toggleGroup(4);
+        QVERIFY(window_->openProject(path));
+        QVERIFY2(window_->getTreeView().isExpanded(model.index(4, 0)),
+                 "the fold state came back with the file");
+        VERIFY_EMPTY(foldMismatch(window_->getTreeView(), model));
+        VERIFY_EMPTY(explorerMismatch(model, session_->getExplorer()));
+    }
+
+    void openedEntitiesShowInTabsThatFollowTheProject()
+    {
+        QTemporaryDir directory;
+        QVERIFY(directory.isValid());
+        const QString csv = directory.filePath("Lintels.csv");
+        QFile file(csv);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("Mark,Span,Load\nL1,1200\nL2,2400,12\n");
+        file.close();
+        // The host's request for a table file comes up as a file dialog.
+        onNextDialog<QFileDialog>(
+            [&csv](QFileDialog& dialog)
+            {
+                dialog.selectFile(csv);
+                // QFileDialog hides its accept(), which checks the chosen file, behind QDialog's.
+                static_cast<QDialog&>(dialog).accept();
+            });
+        window_->getAction("import").trigger();
+
+        const QModelIndex lintels = entityIndex(L"Lintels");
+        const EntityId id = window_->getModel().nodeAt(lintels)->getEntity();
+        Q_EMIT window_->getTreeView().activated(lintels);
+        CDocumentArea& documents = window_->getDocumentArea();
+        QCOMPARE(documents.count(), 1);
+        const CEntityPage* const page = documents.findPage(id);
+        QVERIFY(page != nullptr);
+        QCOMPARE(documents.tabText(0), QString("Lintels"));
+        QCOMPARE(page->getCells().rowCount(), 3);
+        QCOMPARE(page->getCells().columnCount(), 3);
+        QCOMPARE(page->getCells().item(2, 2)->text(), QString("12"));
+        QCOMPARE(page->getCells().item(1, 2)->text(), QString());
+
+        QVERIFY(window_->getModel().setData(lintels, QString("Lintels & sills")));
+        QCOMPARE(documents.tabText(0), QString("Lintels && sills"));
+        window_->getAction("undo").trigger();
+        window_->getAction("undo").trigger();
+        QCOMPARE(documents.count(), 0);
+    }
+
+    void propertiesShowEverySelectedEntity()
+    {
+        window_->getTreeView().selectionModel()->select(entityIndex(L"Rebar 8"),
+                                                        QItemSelectionModel::ClearAndSelect);
+        window_->getTreeView().selectionModel()->select(entityIndex(L"Mesh Q188"),
+                                                        QItemSelectionModel::Select);
+        QAction& properties = window_->getAction("properties");
+        QVERIFY(properties.isEnabled());
+        int pages = -1;
+        onNextDialog<CPropertiesDialog>(
+            [&pages](CPropertiesDialog& dialog)
+            {
+                pages = static_cast<int>(dialog.findChildren<CEntityPage*>().size());
+                dialog.reject();
+            });
+        properties.trigger();
+        QCOMPARE(pages, 2);
+    }
+
+private:
+    IProjectExplorerGroup& group(int row) { return groupAt(session_->getExplorer(), row); }
+
+    // Acts on the next modal dialog of that kind once it shows and waits for the user.
+    template <class Dialog, class Action>
+    void onNextDialog(Action action)
+    {
+        QTimer::singleShot(0, this,
+                           [action]
+                           {
+                               if (auto* const dialog =
+                                       qobject_cast<Dialog*>(QApplication::activeModalWidget()))
+                                   action(*dialog);
+                           });
+    }
+
+    QModelIndex entityIndex(const std::wstring& name) const { return entityRow(window_->getModel(), name); }
+
+    std::unique_ptr<host::CExplorerSession> session_;
+    std::unique_ptr<CMainWindow> window_;
+};
+
+} // namespace aec::desktop
+
+QTEST_MAIN(aec::desktop::DesktopWindowTest)
+#include "DesktopWindowTest.moc"
