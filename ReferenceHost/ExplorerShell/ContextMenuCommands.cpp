@@ -28,7 +28,10 @@ namespace
 // to case.
 std::optional<std::size_t> matchItem(const std::vector<CContextMenuItem>& items, std::wstring_view text)
 {
-    const auto isItem = [](const CContextMenuItem& item) { return !item.isSeparator(); };
+    const auto isItem = [](const CContextMenuItem& item)
+    {
+        return !item.isSeparator();
+    };
     for (std::size_t index = 0; index < items.size(); ++index)
         if (isItem(items[index]) && items[index].getText() == text)
             return index;
@@ -55,15 +58,24 @@ std::string itemTexts(const std::vector<CContextMenuItem>& items)
 } // namespace
 
 CContextMenuCommands::CContextMenuCommands(host::CExplorerSession& session, CCommandTable& table)
-    : session_(session)
+    : CCommandSet(session)
 {
     table.add({"open", "", "open the selection", 0, 0, true,
-               [this](const CCommandLine&, std::ostream&) { open(); }});
+               [this](const CCommandLine&, std::ostream&)
+               {
+                   open();
+               }});
     table.add({"topic", "TOPICNAME", "move the selection to the topic", 1, ShellCommand::anyNumber, true,
-               [this](const CCommandLine& line, std::ostream& out) { changeTopic(line, out); }});
-    table.add({"menu", "[ITEM TEXT...]", "show the selection's context menu, or run its item (Submenu/Item)", 0,
-               ShellCommand::anyNumber, true,
-               [this](const CCommandLine& line, std::ostream& out) { showMenu(line, out); }});
+               [this](const CCommandLine& line, std::ostream& out)
+               {
+                   changeTopic(line, out);
+               }});
+    table.add({"menu", "[ITEM TEXT...]", "show the selection's context menu, or run its item (Submenu/Item)",
+               0, ShellCommand::anyNumber, true,
+               [this](const CCommandLine& line, std::ostream& out)
+               {
+                   showMenu(line, out);
+               }});
 }
 
 void CContextMenuCommands::writeMenu(const std::vector<CContextMenuItem>& items, std::ostream& out, int depth)
@@ -87,8 +99,9 @@ std::vector<std::size_t> CContextMenuCommands::findItem(const std::vector<CConte
     if (const std::optional<std::size_t> index = matchItem(items, text))
     {
         if (!items[*index].getSubItems().empty())
-            throw common::EException(fmt::format("\"{0}\" opens a submenu; choose one of its items as \"{0}/ITEM\".",
-                                                 model::toUtf8(items[*index].getText())));
+            throw common::EException(
+                fmt::format("\"{0}\" opens a submenu; choose one of its items as \"{0}/ITEM\".",
+                            model::toUtf8(items[*index].getText())));
         return {*index};
     }
     // Item texts may hold a slash themselves (a topic's name), so every slash is tried as the border
@@ -99,7 +112,8 @@ std::vector<std::size_t> CContextMenuCommands::findItem(const std::vector<CConte
         if (!submenu || items[*submenu].getSubItems().empty())
             continue;
         const auto& subItems = items[*submenu].getSubItems();
-        if (const std::optional<std::size_t> item = matchItem(subItems, std::wstring_view(text).substr(slash + 1)))
+        if (const std::optional<std::size_t> item =
+                matchItem(subItems, std::wstring_view(text).substr(slash + 1)))
             return {*submenu, *item};
         throw common::EException(fmt::format("\"{}\" has no item \"{}\"; its items are: {}.",
                                              model::toUtf8(items[*submenu].getText()),
@@ -142,7 +156,8 @@ void CContextMenuCommands::changeTopic(const CCommandLine& line, std::ostream& o
     if (session_.getSelection().empty())
         throw common::EException("Nothing is selected; select entities first.");
     const std::vector<CContextMenuItem>& items = requestMenu();
-    const std::wstring submenuText = session_.getHostServices().getTranslation().getText(text_ids::changeTopic);
+    const std::wstring submenuText =
+        session_.getHostServices().getTranslation().getText(text_ids::changeTopic);
     const auto submenu = std::ranges::find(items, submenuText, &CContextMenuItem::getText);
     if (submenu == items.end())
         throw common::EException("The selection cannot change its topic: select sheets, tables, assemblies, "
@@ -150,8 +165,8 @@ void CContextMenuCommands::changeTopic(const CCommandLine& line, std::ostream& o
     const std::string topic = line.joinArguments(0);
     const std::optional<std::size_t> item = matchItem(submenu->getSubItems(), model::fromUtf8(topic));
     if (!item)
-        throw common::EException(fmt::format("There is no topic {}; the topics are: {}.", CCommandLine::quote(topic),
-                                             itemTexts(submenu->getSubItems())));
+        throw common::EException(fmt::format("There is no topic {}; the topics are: {}.",
+                                             CCommandLine::quote(topic), itemTexts(submenu->getSubItems())));
     const std::string chosen = model::toUtf8(submenu->getSubItems()[*item].getText());
     choose({static_cast<std::size_t>(submenu - items.begin()), *item});
     out << "topic: " << CCommandLine::quote(chosen) << '\n';

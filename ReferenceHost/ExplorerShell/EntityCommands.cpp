@@ -49,24 +49,49 @@ EntityIdList newEntities(const CExplorerLookup& lookup, const EntityIdList& befo
 
 } // namespace
 
-CEntityCommands::CEntityCommands(host::CExplorerSession& session, CCommandTable& table) : session_(session)
+CEntityCommands::CEntityCommands(host::CExplorerSession& session, CCommandTable& table) : CCommandSet(session)
 {
-    table.add({"create", "TYPE [NAME]", "create a sheet, table, assembly or material, named NAME if given", 1, 2,
-               true, [this](const CCommandLine& line, std::ostream& out) { create(line, out); }});
+    table.add({"create", "TYPE [NAME]", "create a sheet, table, assembly or material, named NAME if given", 1,
+               2, true,
+               [this](const CCommandLine& line, std::ostream& out)
+               {
+                   create(line, out);
+               }});
     table.add({"rename", "NAME NEWNAME", "rename the entity NAME", 2, 2, true,
-               [this](const CCommandLine& line, std::ostream& out) { rename(line, out); }});
+               [this](const CCommandLine& line, std::ostream& out)
+               {
+                   rename(line, out);
+               }});
     table.add({"delete", "", "delete the selection, after confirmation (see answer)", 0, 0, true,
-               [this](const CCommandLine&, std::ostream& out) { deleteSelection(out); }});
+               [this](const CCommandLine&, std::ostream& out)
+               {
+                   deleteSelection(out);
+               }});
     table.add({"copy", "", "copy the selection to the clipboard", 0, 0, true,
-               [this](const CCommandLine&, std::ostream& out) { copy(out); }});
+               [this](const CCommandLine&, std::ostream& out)
+               {
+                   copy(out);
+               }});
     table.add({"cut", "", "copy the selection to the clipboard, then remove it", 0, 0, true,
-               [this](const CCommandLine&, std::ostream& out) { cut(out); }});
+               [this](const CCommandLine&, std::ostream& out)
+               {
+                   cut(out);
+               }});
     table.add({"paste", "", "paste the clipboard's entities into the project", 0, 0, true,
-               [this](const CCommandLine&, std::ostream& out) { paste(out); }});
+               [this](const CCommandLine&, std::ostream& out)
+               {
+                   paste(out);
+               }});
     table.add({"properties", "", "show the properties of the selection", 0, 0, true,
-               [this](const CCommandLine&, std::ostream&) { editProperties(); }});
+               [this](const CCommandLine&, std::ostream&)
+               {
+                   editProperties();
+               }});
     table.add({"import", "FILE", "import a table from a CSV file", 1, 1, true,
-               [this](const CCommandLine& line, std::ostream& out) { importTable(line, out); }});
+               [this](const CCommandLine& line, std::ostream& out)
+               {
+                   importTable(line, out);
+               }});
 }
 
 void CEntityCommands::create(const CCommandLine& line, std::ostream& out)
@@ -74,8 +99,8 @@ void CEntityCommands::create(const CCommandLine& line, std::ostream& out)
     const CommandWord& typeName = line.getArgument(0);
     const std::optional<EntityTypeId> type = creatableEntityType(typeName.text);
     if (!type)
-        throw common::EException(fmt::format("Cannot create a \"{}\"; create a {}.", typeName.text,
-                                             creatableEntityTypeNames()));
+        throw common::EException(
+            fmt::format("Cannot create a \"{}\"; create a {}.", typeName.text, creatableEntityTypeNames()));
     IProjectExplorerEntityController& controller = session_.getEntityController();
     EntityId id;
     if (line.getArgumentCount() == 1)
@@ -86,8 +111,9 @@ void CEntityCommands::create(const CCommandLine& line, std::ostream& out)
         // Creating and naming is one user action: one undo step, named as a plain create is, and a
         // name the collection refuses leaves no unnamed entity behind. The explorer's two
         // transactions join this one.
-        const std::unique_ptr<ITransaction> transaction = session_.getProject().getTransactionHost().openTransaction(
-            fmt::format("Create entity with type {}", type->toString()));
+        const std::unique_ptr<ITransaction> transaction =
+            session_.getProject().getTransactionHost().openTransaction(
+                fmt::format("Create entity with type {}", type->toString()));
         controller.createEntity(*type, id);
         controller.renameEntity(id, name);
         transaction->commit();
@@ -196,7 +222,8 @@ void CEntityCommands::runCommand(int command, std::string_view what)
     gui.runCommand(command);
 }
 
-std::string CEntityCommands::removedNames(const EntityIdList& entities, const std::vector<std::string>& names) const
+std::string CEntityCommands::removedNames(const EntityIdList& entities,
+                                          const std::vector<std::string>& names) const
 {
     std::string removed;
     for (std::size_t index = 0; index < entities.size(); ++index)

@@ -1,32 +1,23 @@
 #pragma once
 
+#include "ExplorerShell/CommandSet.h"
 #include "aec/EntityId.h"
 
-#include <iosfwd>
 #include <string>
 #include <string_view>
 #include <vector>
 
-namespace aec::host
-{
-class CExplorerSession;
-} // namespace aec::host
-
 namespace aec::shell
 {
-
-class CCommandLine;
-class CCommandTable;
 
 // The commands that change entities: create, rename, delete, copy, cut, paste, properties,
 // import. Those that act on the selection run the host's commands that the explorer's root activity
 // binds (11 delete, 12 properties, 81 copy, 82 cut, 85 paste, 86 import), as a menu or a key would;
 // create and rename call the explorer's entity controller, as a panel's "new" action and its
 // in-place rename do.
-class CEntityCommands
+class CEntityCommands final : public CCommandSet
 {
 public:
-    // Adds the commands to the table; the session must outlive the table.
     CEntityCommands(host::CExplorerSession& session, CCommandTable& table);
 
 private:
@@ -47,8 +38,6 @@ private:
     std::string removedNames(const EntityIdList& entities, const std::vector<std::string>& names) const;
     // The entities that the clipboard holds now, by their identifiers where they were copied.
     EntityIdSet entitiesOnClipboard() const;
-
-    host::CExplorerSession& session_;
 };
 
 } // namespace aec::shell

@@ -33,14 +33,16 @@ constexpr std::array<NamedType, 10> namedTypes{{
 
 std::string entityTypeName(const EntityTypeId& type)
 {
-    const auto named = std::ranges::find_if(namedTypes, [&type](const NamedType& entry) { return entry.second() == type; });
+    const auto named =
+        std::ranges::find_if(namedTypes, [&type](const NamedType& entry) { return entry.second() == type; });
     return named == namedTypes.end() ? type.toString() : std::string(named->first);
 }
 
 std::optional<EntityTypeId> creatableEntityType(std::string_view name)
 {
     const auto end = namedTypes.begin() + creatableCount;
-    const auto named = std::find_if(namedTypes.begin(), end, [name](const NamedType& entry) { return entry.first == name; });
+    const auto named =
+        std::find_if(namedTypes.begin(), end, [name](const NamedType& entry) { return entry.first == name; });
     if (named == end)
         return std::nullopt;
     return named->second();

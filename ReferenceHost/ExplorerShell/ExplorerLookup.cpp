@@ -75,14 +75,18 @@ int CExplorerLookup::findSubgroup(int groupIndex, const CommandWord& word) const
     const auto count = static_cast<int>(std::ranges::distance(group.getSubgroups()));
     const std::optional<int> index = parseIndex(word);
     if (!index)
-        throw common::EException(
-            fmt::format("Give the subgroup as its number within {}, not \"{}\".", model::toUtf8(group.getName()),
-                        word.text));
+        throw common::EException(fmt::format("Give the subgroup as its number within {}, not \"{}\".",
+                                             model::toUtf8(group.getName()), word.text));
     if (*index < 0 || *index >= count)
+    {
+        const std::string name = model::toUtf8(group.getName());
+        if (count == 0)
+            throw common::EException(fmt::format("{} has no subgroups.", name));
         throw common::EException(
-            count == 0 ? fmt::format("{} has no subgroups.", model::toUtf8(group.getName()))
-                       : fmt::format("{} has no subgroup {}; its subgroups are numbered 0 to {}.",
-                                     model::toUtf8(group.getName()), word.text, count - 1));
+            count == 1 ? fmt::format("{} has no subgroup {}; its one subgroup is 0.", name, word.text)
+                       : fmt::format("{} has no subgroup {}; its subgroups are numbered 0 to {}.", name,
+                                     word.text, count - 1));
+    }
     return *index;
 }
 
@@ -117,7 +121,8 @@ EntityId CExplorerLookup::findEntity(const std::string& name) const
         throw common::EException(fmt::format("No entity is named {}.", CCommandLine::quote(name)));
     if (found.size() > 1)
         throw common::EException(fmt::format("{} is ambiguous: {} entities have that name (in {}).",
-                                             CCommandLine::quote(name), found.size(), fmt::join(places, ", ")));
+                                             CCommandLine::quote(name), found.size(),
+                                             fmt::join(places, ", ")));
     return found.front();
 }
 
@@ -133,12 +138,14 @@ EntityIdList CExplorerLookup::entitiesOf(const IProjectExplorerSubgroup& subgrou
         entities.push_back({&getEntity(id).getName(), id});
     // Names equal but for case or leading zeros fall back on their characters, then on identity, so
     // that the order never depends on where the entities were before.
-    std::ranges::sort(entities, [](const NamedEntity& left, const NamedEntity& right) {
-        const int order = common::compareLogical(*left.name, *right.name);
-        if (order != 0)
-            return order < 0;
-        return std::tie(*left.name, left.id) < std::tie(*right.name, right.id);
-    });
+    std::ranges::sort(entities,
+                      [](const NamedEntity& left, const NamedEntity& right)
+                      {
+                          const int order = common::compareLogical(*left.name, *right.name);
+                          if (order != 0)
+                              return order < 0;
+                          return std::tie(*left.name, left.id) < std::tie(*right.name, right.id);
+                      });
     EntityIdList ordered;
     ordered.reserve(entities.size());
     for (const NamedEntity& entity : entities)

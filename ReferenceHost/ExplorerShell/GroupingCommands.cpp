@@ -31,7 +31,8 @@ void writeButton(const host::CGui& gui, std::uint32_t panel, std::uint32_t butto
 }
 
 // The value of the button's item that the user names by its label (any case) or its value.
-std::wstring itemValue(const host::CGui& gui, std::uint32_t panel, std::uint32_t button, const std::string& name)
+std::wstring itemValue(const host::CGui& gui, std::uint32_t panel, std::uint32_t button,
+                       const std::string& name)
 {
     const std::wstring wideName = model::fromUtf8(name);
     const std::vector<host::CGui::ButtonItem> items = gui.getButtonItems(panel, button);
@@ -46,15 +47,26 @@ std::wstring itemValue(const host::CGui& gui, std::uint32_t panel, std::uint32_t
 
 } // namespace
 
-CGroupingCommands::CGroupingCommands(host::CExplorerSession& session, CCommandTable& table) : session_(session)
+CGroupingCommands::CGroupingCommands(host::CExplorerSession& session, CCommandTable& table)
+    : CCommandSet(session)
 {
-    table.add({"options", "G", "what the grouping buttons of group G offer, the current choice marked *", 1, 1,
-               true, [this](const CCommandLine& line, std::ostream& out) { writeOptions(line, out); }});
+    table.add({"options", "G", "what the grouping buttons of group G offer, the current choice marked *", 1,
+               1, true,
+               [this](const CCommandLine& line, std::ostream& out)
+               {
+                   writeOptions(line, out);
+               }});
     table.add({"group", "G KEY|none", "group the subgroups of G by KEY (a name or value of options G)", 2,
                ShellCommand::anyNumber, true,
-               [this](const CCommandLine& line, std::ostream& out) { chooseGrouping(line, out); }});
+               [this](const CCommandLine& line, std::ostream& out)
+               {
+                   chooseGrouping(line, out);
+               }});
     table.add({"sort", "G asc|desc", "sort the subgroups of G ascending or descending", 2, 2, true,
-               [this](const CCommandLine& line, std::ostream& out) { chooseSortOrder(line, out); }});
+               [this](const CCommandLine& line, std::ostream& out)
+               {
+                   chooseSortOrder(line, out);
+               }});
 }
 
 void CGroupingCommands::writeOptions(const CCommandLine& line, std::ostream& out)
@@ -73,13 +85,15 @@ void CGroupingCommands::chooseGrouping(const CCommandLine& line, std::ostream& o
     host::CGui& gui = session_.getGui();
     const CommandWord& first = line.getArgument(1);
     // "none" is the no-grouping item, whose label is a translated text.
-    const std::wstring value = line.getArgumentCount() == 2 && !first.quoted && first.text == "none"
-                                   ? L"0"
-                                   : itemValue(gui, buttons.panel, buttons.groupCriterion, line.joinArguments(1));
+    const std::wstring value =
+        line.getArgumentCount() == 2 && !first.quoted && first.text == "none"
+            ? L"0"
+            : itemValue(gui, buttons.panel, buttons.groupCriterion, line.joinArguments(1));
     gui.chooseButtonValue(buttons.panel, buttons.groupCriterion, value);
     const auto items = gui.getButtonItems(buttons.panel, buttons.groupCriterion);
     const auto chosen = std::ranges::find(items, value, &host::CGui::ButtonItem::value);
-    out << fmt::format("grouping of {}: {}\n", model::toUtf8(CExplorerLookup(session_).getGroup(groupIndex).getName()),
+    out << fmt::format("grouping of {}: {}\n",
+                       model::toUtf8(CExplorerLookup(session_).getGroup(groupIndex).getName()),
                        chosen == items.end() ? model::toUtf8(value) : model::toUtf8(chosen->label));
 }
 
@@ -93,7 +107,8 @@ void CGroupingCommands::chooseSortOrder(const CCommandLine& line, std::ostream& 
     session_.getGui().chooseButtonValue(
         buttons.panel, buttons.sortOrder,
         std::wstring(ascending ? host::CGui::ascendingValue : host::CGui::descendingValue));
-    out << fmt::format("sort of {}: {}\n", model::toUtf8(CExplorerLookup(session_).getGroup(groupIndex).getName()),
+    out << fmt::format("sort of {}: {}\n",
+                       model::toUtf8(CExplorerLookup(session_).getGroup(groupIndex).getName()),
                        ascending ? "ascending" : "descending");
 }
 
@@ -101,7 +116,8 @@ std::pair<int, host::GroupingButtonIds> CGroupingCommands::groupWithButtons(cons
 {
     const CExplorerLookup lookup(session_);
     const int groupIndex = lookup.findGroup(line.getArgument(0));
-    const std::optional<host::GroupingButtonIds> buttons = host::groupingButtonsOf(lookup.getGroupInfo(groupIndex));
+    const std::optional<host::GroupingButtonIds> buttons =
+        host::groupingButtonsOf(lookup.getGroupInfo(groupIndex));
     if (!buttons)
         throw common::EException(
             fmt::format("{} has no grouping.", model::toUtf8(lookup.getGroup(groupIndex).getName())));

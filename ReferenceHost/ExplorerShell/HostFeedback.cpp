@@ -91,10 +91,12 @@ void CHostFeedback::writeProperties(std::ostream& out) const
             topic = "topic " + (found == topics.end() ? topicId->uuid().toString()
                                                       : CCommandLine::quote(model::toUtf8(found->getName())));
         }
-        out << fmt::format("properties of {} ({}, {}):\n", lookup.quotedName(id), entityTypeName(entity.getType()),
-                           topic);
+        out << fmt::format("properties of {} ({}, {}):\n", lookup.quotedName(id),
+                           entityTypeName(entity.getType()), topic);
         for (const auto& [name, value] : entity.getProperties())
             out << fmt::format("  {}: {}\n", name, model::toUtf8(value));
+        if (entity.getProperties().empty())
+            out << "  (no properties)\n";
     }
 }
 

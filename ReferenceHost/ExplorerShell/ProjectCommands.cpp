@@ -25,40 +25,52 @@ std::filesystem::path pathFromUtf8(const std::string& text)
 
 } // namespace
 
-CProjectCommands::CProjectCommands(host::CExplorerSession& session, CCommandTable& table) : session_(session)
+CProjectCommands::CProjectCommands(host::CExplorerSession& session, CCommandTable& table)
+    : CCommandSet(session)
 {
     table.add({"undo", "", "undo the last change of the project", 0, 0, true,
-               [this](const CCommandLine&, std::ostream& out) { undo(out); }});
+               [this](const CCommandLine&, std::ostream& out)
+               {
+                   replay(true, out);
+               }});
     table.add({"redo", "", "redo the last undone change", 0, 0, true,
-               [this](const CCommandLine&, std::ostream& out) { redo(out); }});
+               [this](const CCommandLine&, std::ostream& out)
+               {
+                   replay(false, out);
+               }});
     table.add({"history", "", "the changes that undo and redo would replay, next first", 0, 0, true,
-               [this](const CCommandLine&, std::ostream& out) { writeHistory(out); }});
+               [this](const CCommandLine&, std::ostream& out)
+               {
+                   writeHistory(out);
+               }});
     table.add({"answer", "yes|no", "answer the next confirmation with yes or no", 1, 1, false,
-               [this](const CCommandLine& line, std::ostream& out) { answer(line, out); }});
+               [this](const CCommandLine& line, std::ostream& out)
+               {
+                   answer(line, out);
+               }});
     table.add({"save", "FILE", "save the project with the explorer's state", 1, 1, true,
-               [this](const CCommandLine& line, std::ostream& out) { save(line, out); }});
+               [this](const CCommandLine& line, std::ostream& out)
+               {
+                   save(line, out);
+               }});
     table.add({"load", "FILE", "open a project file instead of the open project", 1, 1, false,
-               [this](const CCommandLine& line, std::ostream& out) { load(line, out); }});
+               [this](const CCommandLine& line, std::ostream& out)
+               {
+                   load(line, out);
+               }});
 }
 
-void CProjectCommands::undo(std::ostream& out)
+void CProjectCommands::replay(bool undo, std::ostream& out)
 {
     model::CUndoHistory& history = session_.getUndoHistory();
-    if (!history.canUndo())
-        throw common::EException("There is nothing to undo.");
-    const std::string name = history.getUndoName().value_or("");
-    history.undo();
-    out << "undone: " << name << '\n';
-}
-
-void CProjectCommands::redo(std::ostream& out)
-{
-    model::CUndoHistory& history = session_.getUndoHistory();
-    if (!history.canRedo())
-        throw common::EException("There is nothing to redo.");
-    const std::string name = history.getRedoName().value_or("");
-    history.redo();
-    out << "redone: " << name << '\n';
+    if (!(undo ? history.canUndo() : history.canRedo()))
+        throw common::EException(undo ? "There is nothing to undo." : "There is nothing to redo.");
+    const std::string name = (undo ? history.getUndoName() : history.getRedoName()).value_or("");
+    if (undo)
+        history.undo();
+    else
+        history.redo();
+    out << (undo ? "undone: " : "redone: ") << name << '\n';
 }
 
 void CProjectCommands::writeHistory(std::ostream& out)
@@ -75,7 +87,8 @@ void CProjectCommands::answer(const CCommandLine& line, std::ostream& out)
     const std::string& text = line.getArgument(0).text;
     if (text != "yes" && text != "no")
         throw common::EException(fmt::format("Answer yes or no, not \"{}\".", text));
-    session_.getHostServices().getDialogService().queueAnswer(text == "yes" ? DialogAnswer::Yes : DialogAnswer::No);
+    session_.getHostServices().getDialogService().queueAnswer(text == "yes" ? DialogAnswer::Yes
+                                                                            : DialogAnswer::No);
     out << "next answer: " << text << '\n';
 }
 

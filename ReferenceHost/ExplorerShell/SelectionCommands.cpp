@@ -31,12 +31,16 @@ EntityIdSet difference(const EntityIdSet& from, const EntityIdSet& without)
 
 } // namespace
 
-CSelectionCommands::CSelectionCommands(host::CExplorerSession& session, CCommandTable& table) : session_(session)
+CSelectionCommands::CSelectionCommands(host::CExplorerSession& session, CCommandTable& table)
+    : CCommandSet(session)
 {
     table.add({"select", "NAME...|+NAME|-NAME|none|all G",
                "select these entities, add (+) or remove (-) some, none, or all of group G", 1,
                ShellCommand::anyNumber, true,
-               [this](const CCommandLine& line, std::ostream& out) { select(line, out); }});
+               [this](const CCommandLine& line, std::ostream& out)
+               {
+                   select(line, out);
+               }});
 }
 
 void CSelectionCommands::select(const CCommandLine& line, std::ostream& out)
@@ -49,8 +53,8 @@ void CSelectionCommands::select(const CCommandLine& line, std::ostream& out)
     if (now.empty())
         out << "selected: nothing\n";
     else
-        out << "selected: " << CExplorerLookup(session_).quotedNames(CExplorerLookup(session_).inTreeOrder(now))
-            << '\n';
+        out << "selected: "
+            << CExplorerLookup(session_).quotedNames(CExplorerLookup(session_).inTreeOrder(now)) << '\n';
 }
 
 EntityIdSet CSelectionCommands::chosenSelection(const CCommandLine& line) const

@@ -1,19 +1,10 @@
 #pragma once
 
+#include "ExplorerShell/CommandSet.h"
 #include "aec/EntityId.h"
-
-#include <iosfwd>
-
-namespace aec::host
-{
-class CExplorerSession;
-} // namespace aec::host
 
 namespace aec::shell
 {
-
-class CCommandLine;
-class CCommandTable;
 
 // The select command: changes the explorer's selection through the panel, as clicks would.
 //
@@ -24,17 +15,14 @@ class CCommandTable;
 //
 // Every name must name one entity; a quoted word is always a name, so select "none" and
 // select "+X" select entities of those names.
-class CSelectionCommands
+class CSelectionCommands final : public CCommandSet
 {
 public:
-    // Adds the command to the table; the session must outlive the table.
     CSelectionCommands(host::CExplorerSession& session, CCommandTable& table);
 
 private:
     void select(const CCommandLine& line, std::ostream& out);
     EntityIdSet chosenSelection(const CCommandLine& line) const;
-
-    host::CExplorerSession& session_;
 };
 
 } // namespace aec::shell

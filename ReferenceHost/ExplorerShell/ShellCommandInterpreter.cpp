@@ -45,9 +45,15 @@ CShellCommandInterpreter::CShellCommandInterpreter(aec::host::CExplorerSession& 
     groupingCommands_ = std::make_unique<CGroupingCommands>(session_, commands_);
     projectCommands_ = std::make_unique<CProjectCommands>(session_, commands_);
     commands_.add({"help", "", "this list", 0, 0, false,
-                   [this](const CCommandLine&, std::ostream& help) { commands_.writeHelp(help); }});
+                   [this](const CCommandLine&, std::ostream& help)
+                   {
+                       commands_.writeHelp(help);
+                   }});
     commands_.add({"quit", "", "leave the shell", 0, 0, false,
-                   [this](const CCommandLine&, std::ostream&) { quit_ = true; }});
+                   [this](const CCommandLine&, std::ostream&)
+                   {
+                       quit_ = true;
+                   }});
 }
 
 CShellCommandInterpreter::~CShellCommandInterpreter()

@@ -53,16 +53,29 @@ std::string groupingText(const IProjectExplorerGroup& group, const ProjectExplor
 
 } // namespace
 
-CTreeCommands::CTreeCommands(host::CExplorerSession& session, CCommandTable& table) : session_(session)
+CTreeCommands::CTreeCommands(host::CExplorerSession& session, CCommandTable& table) : CCommandSet(session)
 {
     table.add({"tree", "", "show the tree: [+] folded, [-] unfolded, (count), * selected", 0, 0, true,
-               [this](const CCommandLine&, std::ostream& out) { CTreeWriter(session_).writeTree(out); }});
+               [this](const CCommandLine&, std::ostream& out)
+               {
+                   CTreeWriter(session_).writeTree(out);
+               }});
     table.add({"dump", "", "the tree as tab-separated lines, one node a line", 0, 0, true,
-               [this](const CCommandLine&, std::ostream& out) { CTreeWriter(session_).writeDump(out); }});
+               [this](const CCommandLine&, std::ostream& out)
+               {
+                   CTreeWriter(session_).writeDump(out);
+               }});
     table.add({"toggle", "G [S]", "fold or unfold group G (number or name) or its subgroup S (number)", 1, 2,
-               true, [this](const CCommandLine& line, std::ostream& out) { toggle(line, out); }});
+               true,
+               [this](const CCommandLine& line, std::ostream& out)
+               {
+                   toggle(line, out);
+               }});
     table.add({"state", "", "the recorded state: grouping, sort order and folds of every group", 0, 0, true,
-               [this](const CCommandLine&, std::ostream& out) { writeState(out); }});
+               [this](const CCommandLine&, std::ostream& out)
+               {
+                   writeState(out);
+               }});
 }
 
 void CTreeCommands::toggle(const CCommandLine& line, std::ostream& out)
@@ -96,15 +109,16 @@ void CTreeCommands::writeState(std::ostream& out)
             continue;
         const std::string groupName = CTreeWriter::dumpField(group.getName());
         out << fmt::format("group\t{}\t{:d}\t{}\t{}\n", groupName, state->second.expanded,
-                           state->second.sortOrder == IProjectExplorerGroupingModel::ascending ? "asc" : "desc",
+                           state->second.sortOrder == IProjectExplorerGroupingModel::ascending ? "asc"
+                                                                                               : "desc",
                            groupingText(group, state->second));
         for (const IProjectExplorerSubgroup& subgroup : group.getSubgroups())
         {
-            const auto expanded =
-                state->second.subgroupExpanded.find(common::makeNameBasedUuid(group.getId(), subgroup.getName()));
+            const auto expanded = state->second.subgroupExpanded.find(
+                common::makeNameBasedUuid(group.getId(), subgroup.getName()));
             if (expanded != state->second.subgroupExpanded.end())
-                out << fmt::format("subgroup\t{}\t{}\t{:d}\n", groupName, CTreeWriter::dumpField(subgroup.getName()),
-                                   expanded->second);
+                out << fmt::format("subgroup\t{}\t{}\t{:d}\n", groupName,
+                                   CTreeWriter::dumpField(subgroup.getName()), expanded->second);
         }
     }
 }

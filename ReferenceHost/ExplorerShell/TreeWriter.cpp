@@ -78,8 +78,8 @@ void CTreeWriter::writeDump(std::ostream& out) const
     int groupIndex = 0;
     for (const IProjectExplorerGroup& group : session_.getExplorer().getGroups())
     {
-        out << fmt::format("group\t{}\t{:d}\t{}\t{}\n", groupIndex, group.isExpanded(), dumpField(group.getName()),
-                           entityCount(group));
+        out << fmt::format("group\t{}\t{:d}\t{}\t{}\n", groupIndex, group.isExpanded(),
+                           dumpField(group.getName()), entityCount(group));
         int subgroupIndex = 0;
         for (const IProjectExplorerSubgroup& subgroup : group.getSubgroups())
         {
@@ -105,11 +105,20 @@ std::string CTreeWriter::dumpField(std::wstring_view name)
     for (const char character : model::toUtf8(name))
         switch (character)
         {
-        case '\t': field += "\\t"; break;
-        case '\n': field += "\\n"; break;
-        case '\r': field += "\\r"; break;
-        case '\\': field += "\\\\"; break;
-        default: field += character;
+        case '\t':
+            field += "\\t";
+            break;
+        case '\n':
+            field += "\\n";
+            break;
+        case '\r':
+            field += "\\r";
+            break;
+        case '\\':
+            field += "\\\\";
+            break;
+        default:
+            field += character;
         }
     return field;
 }

@@ -2,6 +2,7 @@
 // explorer session and runs command lines from the terminal, a script or stdin.
 
 #include "AecModel/SampleProject.h"
+#include "AecModel/WideText.h"
 #include "Common/AssertionViolation.h"
 #include "Common/Exception.h"
 #include "ExplorerShell/ShellCommandInterpreter.h"
@@ -9,8 +10,6 @@
 #include "HostFrame/StatusService.h"
 #include "HostServices/HostServices.h"
 #include "ShellInput.h"
-
-#include "AecModel/WideText.h"
 
 #include <boost/program_options.hpp>
 #include <cstdint>
@@ -31,7 +30,8 @@ struct ShellOptions
     std::optional<aec::DialogAnswer> answer;
 };
 
-constexpr const char* usage = "Usage: explorer-shell [PROJECT.json] [--script FILE] [--seed N] [--answer yes|no]";
+constexpr const char* usage =
+    "Usage: explorer-shell [PROJECT.json] [--script FILE] [--seed N] [--answer yes|no]";
 
 options::options_description describeOptions()
 {
@@ -39,7 +39,8 @@ options::options_description describeOptions()
     description.add_options()("help,h", "show this help and the commands")(
         "script", options::value<std::string>(), "run the commands of FILE; stop at the first that fails")(
         "seed", options::value<std::uint64_t>(), "make identifiers from seed N, so that runs repeat exactly")(
-        "answer", options::value<std::string>(), "answer confirmations yes or no unless told otherwise (default no)")(
+        "answer", options::value<std::string>(),
+        "answer confirmations yes or no unless told otherwise (default no)")(
         "project", options::value<std::string>(), "the project file to open (default: the sample project)");
     return description;
 }
@@ -92,7 +93,8 @@ int runShell(const ShellOptions& parsed)
     if (const std::wstring& status = session.getStatusService().getLastMessage(); !status.empty())
         std::cout << "status: " << aec::model::toUtf8(status) << '\n';
 
-    CShellInput input = parsed.script ? CShellInput::fromScript(*parsed.script) : CShellInput::fromStandardInput();
+    CShellInput input =
+        parsed.script ? CShellInput::fromScript(*parsed.script) : CShellInput::fromStandardInput();
     aec::shell::CShellCommandInterpreter interpreter(session, std::cout);
     if (input.getSource() == CShellInput::Source::Terminal)
     {

@@ -77,8 +77,9 @@ protected:
         std::ostringstream dump;
         CShellCommandInterpreter(session, dump).execute("dump");
         const auto& history = session.getUndoHistory();
-        return session.getProject().canonicalDump() + dump.str() + std::to_string(history.getUndoNames().size()) +
-               ' ' + std::to_string(history.getRedoNames().size());
+        return session.getProject().canonicalDump() + dump.str() +
+               std::to_string(history.getUndoNames().size()) + ' ' +
+               std::to_string(history.getRedoNames().size());
     }
 
     host::CExplorerSession session{42};
@@ -88,7 +89,8 @@ protected:
 
 TEST_F(ShellCommandInterpreterTest, EveryBadCommandPrintsOneErrorLineAndChangesNothing)
 {
-    const std::filesystem::path broken = std::filesystem::temp_directory_path() / "explorer-shell-broken.json";
+    const std::filesystem::path broken =
+        std::filesystem::temp_directory_path() / "explorer-shell-broken.json";
     std::ofstream(broken) << R"({"format": "aec-model-project", "version": 1, "collections": )";
     run("toggle 0");
     run(R"(select "Sheet A-101" "Cover sheet")");
@@ -207,7 +209,8 @@ TEST_F(ShellCommandInterpreterTest, DeleteFollowsTheAnswerToItsQuestion)
     EXPECT_EQ(run("delete"), "asked: Delete 2 entities?\ndeleted: \"Sheet S-1\", \"Sheet S-2\"\n");
     EXPECT_EQ(session.getProject().findEntity(first), nullptr);
     EXPECT_EQ(session.getProject().findEntity(second), nullptr);
-    EXPECT_THAT(session.getUndoHistory().getUndoNames(), ElementsAre("Remove entities from project explorer"));
+    EXPECT_THAT(session.getUndoHistory().getUndoNames(),
+                ElementsAre("Remove entities from project explorer"));
 }
 
 TEST_F(ShellCommandInterpreterTest, CopyCutAndPasteGoThroughTheClipboard)
@@ -220,7 +223,8 @@ TEST_F(ShellCommandInterpreterTest, CopyCutAndPasteGoThroughTheClipboard)
     EXPECT_EQ(run("cut"), "cut: \"Sheet A-20\"\n");
     EXPECT_EQ(run("paste"), "pasted: \"Sheet A-20\"\n") << "the cut name is free again";
     EXPECT_THAT(session.getUndoHistory().getUndoNames(),
-                ElementsAre("Paste entities from clipboard to project explorer", "Remove entities from project explorer",
+                ElementsAre("Paste entities from clipboard to project explorer",
+                            "Remove entities from project explorer",
                             "Paste entities from clipboard to project explorer"));
 }
 
@@ -233,7 +237,8 @@ TEST_F(ShellCommandInterpreterTest, ContextMenuShowsAndRunsItsItems)
     EXPECT_THAT(menu, StartsWith("Open\n---\nRename\n---\nChange topic\n  Architecture\n"));
     EXPECT_THAT(menu, HasSubstr("\n---\nCut\nCopy\nPaste (disabled)\n"));
 
-    EXPECT_EQ(run("menu change topic/LEVEL 2"), "chose: Change topic/level 2\n") << "case is no matter when unique";
+    EXPECT_EQ(run("menu change topic/LEVEL 2"), "chose: Change topic/level 2\n")
+        << "case is no matter when unique";
     EXPECT_EQ(topicOf(concrete), L"level 2");
     EXPECT_EQ(run("topic Structure"), "topic: \"Structure\"\n");
     EXPECT_EQ(topicOf(concrete), L"Structure");
@@ -264,7 +269,8 @@ TEST_F(ShellCommandInterpreterTest, GroupingAndSortGoThroughTheButtons)
 
 TEST_F(ShellCommandInterpreterTest, SaveAndLoadBringBackFoldsAndGrouping)
 {
-    const std::filesystem::path file = std::filesystem::temp_directory_path() / "explorer-shell-round-trip.json";
+    const std::filesystem::path file =
+        std::filesystem::temp_directory_path() / "explorer-shell-round-trip.json";
     run("group Sheets Topic");
     run("sort Sheets desc");
     run("toggle Sheets");
@@ -279,7 +285,8 @@ TEST_F(ShellCommandInterpreterTest, SaveAndLoadBringBackFoldsAndGrouping)
     EXPECT_EQ(run("load " + file.string()), "loaded: \"" + file.string() + "\"\n");
     std::filesystem::remove(file);
     EXPECT_EQ(run("dump"), saved);
-    EXPECT_THAT(session.getUndoHistory().getUndoNames(), IsEmpty()) << "a loaded project starts its own history";
+    EXPECT_THAT(session.getUndoHistory().getUndoNames(), IsEmpty())
+        << "a loaded project starts its own history";
 }
 
 TEST_F(ShellCommandInterpreterTest, ToggleFoldsGroupsAndSubgroupsByNumberOrName)
@@ -298,9 +305,10 @@ TEST_F(ShellCommandInterpreterTest, HelpQuitAndCommentsNeedNoProject)
     EXPECT_TRUE(interpreter.execute("   "));
     EXPECT_THAT(fail("tree"), HasSubstr("No project is open"));
     const std::string help = '\n' + run("help");
-    for (const char* command : {"tree", "dump", "toggle", "select", "open", "create", "rename", "delete", "copy",
-                                "cut", "paste", "properties", "import", "topic", "menu", "options", "group", "sort",
-                                "undo", "redo", "history", "state", "answer", "save", "load", "help", "quit"})
+    for (const char* command :
+         {"tree", "dump",  "toggle",     "select", "open",   "create", "rename",  "delete", "copy",
+          "cut",  "paste", "properties", "import", "topic",  "menu",   "options", "group",  "sort",
+          "undo", "redo",  "history",    "state",  "answer", "save",   "load",    "help",   "quit"})
         EXPECT_THAT(help, HasSubstr(std::string("\n  ") + command)) << command;
     EXPECT_FALSE(interpreter.hasQuit());
     run("quit");
@@ -309,7 +317,10 @@ TEST_F(ShellCommandInterpreterTest, HelpQuitAndCommentsNeedNoProject)
 
 TEST_F(ShellCommandInterpreterTest, LeavesNoPropertyContextBehind)
 {
-    const auto context = [this] { return session.getProject().getDocument().getPropertyContext(); };
+    const auto context = [this]
+    {
+        return session.getProject().getDocument().getPropertyContext();
+    };
     {
         std::ostringstream output;
         CShellCommandInterpreter other(session, output);
