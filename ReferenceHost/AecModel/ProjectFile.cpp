@@ -141,9 +141,10 @@ json parseFile(const std::filesystem::path& path)
     {
         return json::parse(stream);
     }
-    catch (const json::parse_error& parseError)
+    // Not only parse_error: a number beyond the range of double is an out_of_range error.
+    catch (const json::exception& parseError)
     {
-        throw common::EException(fmt::format("it is not valid JSON ({})", parseError.what()));
+        throw common::EException(fmt::format("it is not valid JSON ({})", fields::parseFailure(parseError)));
     }
 }
 

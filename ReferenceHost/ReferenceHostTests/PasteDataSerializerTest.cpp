@@ -89,6 +89,7 @@ TEST_F(PasteDataSerializerTest, TextThatIsNoPasteDataIsRefused)
     expectRefused(L"", "the clipboard text is empty");
     expectRefused(L"Sheet A-101", "it is not valid JSON");
     expectRefused(L"{\"format\": \"project-entities\"", "it is not valid JSON");
+    expectRefused(L"{\"format\": \"project-entities\", \"version\": 1e999}", "it is not valid JSON");
     expectRefused(L"[1, 2]", "it is not a JSON object");
     expectDocumentRefused(with(json::json_pointer("/format"), "aec-model-project"),
                           "it is not project entity data (\"format\" is not \"project-entities\")");

@@ -80,6 +80,8 @@ TEST_F(ProjectFileTest, BrokenFilesAreRefusedWithTheirTrouble)
 {
     expectBroken(directory / "missing.json", "does not exist");
     expectBroken(write("text.json", "just some text"), "not valid JSON");
+    expectBroken(write("huge-number.json", "{\"format\": \"aec-model-project\", \"version\": 1e999}"),
+                 "not valid JSON");
     expectBroken(write("array.json", "[1, 2, 3]"), "not a JSON object");
 
     json other = savedSample();
