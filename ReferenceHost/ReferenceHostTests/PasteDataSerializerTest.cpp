@@ -131,6 +131,9 @@ TEST_F(PasteDataSerializerTest, CollectionsAndEntitiesOfTheWrongShapeAreRefused)
                           sheet + "\"properties\" is not a JSON object");
     expectDocumentRefused(with(json::json_pointer("/collections/sheets/0/properties/scale"), 50),
                           sheet + "\"properties\" is not a text");
+    // The project keeps no property without a name, so such data could never paste.
+    expectDocumentRefused(with(json::json_pointer("/collections/sheets/0/properties/"), "1:50"),
+                          sheet + "\"properties\" has a property without a name");
     json missingType = good;
     missingType["collections"]["sheets"][0].erase("type");
     expectDocumentRefused(missingType, sheet + "\"type\" is missing");

@@ -102,6 +102,14 @@ TEST_F(ProjectFileTest, BrokenFilesAreRefusedWithTheirTrouble)
     badId["collections"]["tables"][2]["id"] = "12345";
     expectBroken(write("bad-id.json", badId.dump()), "entity 3 of the collection \"tables\"");
 
+    json nilId = savedSample();
+    nilId["collections"]["topics"][0]["id"] = "00000000-0000-0000-0000-000000000000";
+    expectBroken(write("nil-id.json", nilId.dump()), "\"id\" is the nil UUID");
+
+    json unnamedProperty = savedSample();
+    unnamedProperty["collections"]["sheets"][0]["properties"][""] = "1:50";
+    expectBroken(write("unnamed-property.json", unnamedProperty.dump()), "a property without a name");
+
     json lostTopic = savedSample();
     lostTopic["collections"]["topics"].erase(0);
     expectBroken(write("lost-topic.json", lostTopic.dump()), "which is not in the file");
