@@ -279,8 +279,9 @@ CFractionalIndex CFractionalIndex::fromHex(std::string_view text)
     {
         bytes.clear();
     }
+    // The text is quoted escaped: it may hold anything, also a zero byte that would end the message.
     if (bytes.empty() || bytes.back() == 0)
-        throw EException(fmt::format("\"{}\" is not an order key: expected pairs of hexadecimal digits, "
+        throw EException(fmt::format("{:?} is not an order key: expected pairs of hexadecimal digits, "
                                      "at least one, the last pair not \"00\"",
                                      text));
     return CFractionalIndex(Unchecked{}, std::move(bytes));

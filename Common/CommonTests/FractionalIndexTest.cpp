@@ -285,6 +285,18 @@ TEST(FractionalIndexTest, HexFormRoundTripsAndRejectsWhatIsNoKey)
             EXPECT_NE(std::string(error.what()).find('"' + notAKey + '"'), std::string::npos) << error.what();
         }
     }
+
+    // A zero byte in the text must not end the message before it says what is wrong.
+    try
+    {
+        CFractionalIndex::fromHex(std::string_view("8\0\xff", 3));
+        ADD_FAILURE() << "a text with a zero byte was read as a key";
+    }
+    catch (const common::EException& error)
+    {
+        EXPECT_STREQ(error.what(), "\"8\\x00\\xff\" is not an order key: expected pairs of hexadecimal digits, "
+                                   "at least one, the last pair not \"00\"");
+    }
 }
 
 } // namespace

@@ -5,7 +5,7 @@
 
 #include "Common/Check.h"
 
-#include <ranges>
+#include <boost/range/adaptor/reversed.hpp>
 
 namespace aec::model
 {
@@ -97,7 +97,8 @@ void CChangeApplier::replay(const std::vector<ModelChange>& changes, ChangeDirec
         for (const ModelChange& change : changes)
             apply(change, direction);
     else
-        for (const ModelChange& change : std::views::reverse(changes))
+        // Boost's adaptor rather than std::views::reverse, whose libstdc++ 12 form clang 14 rejects.
+        for (const ModelChange& change : boost::adaptors::reverse(changes))
             apply(change, direction);
     notifier_.flushUnlessBatched();
 }

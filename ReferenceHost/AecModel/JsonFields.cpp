@@ -74,6 +74,11 @@ bool boolean(const json& value, const char* name)
     return value.get<bool>();
 }
 
+std::string parseFailure(const nlohmann::json::exception& error)
+{
+    return toValidUtf8(error.what());
+}
+
 } // namespace json_fields
 
 } // namespace aec::model

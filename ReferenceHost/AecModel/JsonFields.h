@@ -22,4 +22,8 @@ std::wstring wideText(const nlohmann::json& value, const char* name);
 common::UUID uuid(const nlohmann::json& value, const char* name);
 bool boolean(const nlohmann::json& value, const char* name);
 
+// Why the parser refused a text, for a message: the parser's own words, in which the bytes it
+// quotes from the text are left out where they are not UTF-8, so that the message stays text.
+std::string parseFailure(const nlohmann::json::exception& error);
+
 } // namespace aec::model::json_fields

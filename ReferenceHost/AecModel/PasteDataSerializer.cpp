@@ -93,9 +93,10 @@ json parse(const std::wstring& text)
     {
         return json::parse(toUtf8(text));
     }
-    catch (const json::parse_error& parseError)
+    // Not only parse_error: a number beyond the range of double is an out_of_range error.
+    catch (const json::exception& parseError)
     {
-        throw common::EException(fmt::format("it is not valid JSON ({})", parseError.what()));
+        throw common::EException(fmt::format("it is not valid JSON ({})", fields::parseFailure(parseError)));
     }
 }
 

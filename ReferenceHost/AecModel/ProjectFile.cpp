@@ -58,6 +58,10 @@ EntityRecord readEntity(const json& object, EntityCollection collection)
     EntityRecord record;
     record.collection = collection;
     record.id = EntityId(fields::uuid(fields::member(object, "id"), "id"));
+    // The project gives a nil identifier a fresh one, so the file would name no entity by it and
+    // every load would make another one.
+    if (record.id.isNull())
+        throw EJsonFieldError("\"id\" is the nil UUID, which names no entity");
     record.name = fields::wideText(fields::member(object, "name"), "name");
     if (const json* const topic = fields::optionalMember(object, "topic"))
         record.topic = TopicId(fields::uuid(*topic, "topic"));
@@ -141,9 +145,10 @@ json parseFile(const std::filesystem::path& path)
     {
         return json::parse(stream);
     }
-    catch (const json::parse_error& parseError)
+    // Not only parse_error: a number beyond the range of double is an out_of_range error.
+    catch (const json::exception& parseError)
     {
-        throw common::EException(fmt::format("it is not valid JSON ({})", parseError.what()));
+        throw common::EException(fmt::format("it is not valid JSON ({})", fields::parseFailure(parseError)));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "AecModel/ProjectPreferences.h"
 
 #include "AecModel/ExplorerStateJson.h"
+#include "AecModel/JsonFields.h"
 
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
@@ -57,11 +58,12 @@ void CProjectPreferences::fromJsonText(std::string_view text)
     {
         json = nlohmann::json::parse(text);
     }
-    catch (const nlohmann::json::parse_error& error)
+    // Not only parse_error: a number beyond the range of double is an out_of_range error.
+    catch (const nlohmann::json::exception& error)
     {
         explorerState_.reset();
         warnings_.assign(1, fmt::format("The stored preferences are not valid JSON ({}); they were dropped.",
-                                        error.what()));
+                                        json_fields::parseFailure(error)));
         return;
     }
     fromJson(json);

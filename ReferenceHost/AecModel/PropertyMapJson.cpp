@@ -26,7 +26,11 @@ PropertyMap readProperties(const nlohmann::json& entity)
     if (!object->is_object())
         throw EJsonFieldError("\"properties\" is not a JSON object");
     for (const auto& [name, value] : object->items())
+    {
+        if (name.empty())
+            throw EJsonFieldError("\"properties\" has a property without a name");
         properties.emplace(name, json_fields::wideText(value, "properties"));
+    }
     return properties;
 }
 

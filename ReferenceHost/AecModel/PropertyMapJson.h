@@ -13,7 +13,7 @@ namespace aec::model
 // Adds "properties" to the entity's object unless there are none.
 void writeProperties(nlohmann::json& entity, const PropertyMap& properties);
 // The entity object's "properties", none when it has no such field; throws EJsonFieldError when
-// the field is not an object of texts.
+// the field is not an object of texts or a property has no name (a project has no such property).
 PropertyMap readProperties(const nlohmann::json& entity);
 
 } // namespace aec::model

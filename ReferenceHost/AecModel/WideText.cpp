@@ -25,4 +25,9 @@ std::wstring fromUtf8(std::string_view text)
     }
 }
 
+std::string toValidUtf8(std::string_view text)
+{
+    return boost::locale::conv::utf_to_utf<char>(text.data(), text.data() + text.size());
+}
+
 } // namespace aec::model

@@ -14,5 +14,7 @@ namespace aec::model
 AECMODEL_API std::string toUtf8(std::wstring_view text);
 // Throws common::EException when the text is not valid UTF-8.
 AECMODEL_API std::wstring fromUtf8(std::string_view text);
+// The text without the bytes that are no part of a UTF-8 character.
+std::string toValidUtf8(std::string_view text);
 
 } // namespace aec::model

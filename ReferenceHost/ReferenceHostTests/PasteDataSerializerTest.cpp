@@ -89,6 +89,7 @@ TEST_F(PasteDataSerializerTest, TextThatIsNoPasteDataIsRefused)
     expectRefused(L"", "the clipboard text is empty");
     expectRefused(L"Sheet A-101", "it is not valid JSON");
     expectRefused(L"{\"format\": \"project-entities\"", "it is not valid JSON");
+    expectRefused(L"{\"format\": \"project-entities\", \"version\": 1e999}", "it is not valid JSON");
     expectRefused(L"[1, 2]", "it is not a JSON object");
     expectDocumentRefused(with(json::json_pointer("/format"), "aec-model-project"),
                           "it is not project entity data (\"format\" is not \"project-entities\")");
@@ -130,6 +131,9 @@ TEST_F(PasteDataSerializerTest, CollectionsAndEntitiesOfTheWrongShapeAreRefused)
                           sheet + "\"properties\" is not a JSON object");
     expectDocumentRefused(with(json::json_pointer("/collections/sheets/0/properties/scale"), 50),
                           sheet + "\"properties\" is not a text");
+    // The project keeps no property without a name, so such data could never paste.
+    expectDocumentRefused(with(json::json_pointer("/collections/sheets/0/properties/"), "1:50"),
+                          sheet + "\"properties\" has a property without a name");
     json missingType = good;
     missingType["collections"]["sheets"][0].erase("type");
     expectDocumentRefused(missingType, sheet + "\"type\" is missing");

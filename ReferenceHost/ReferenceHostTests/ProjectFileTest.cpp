@@ -80,6 +80,8 @@ TEST_F(ProjectFileTest, BrokenFilesAreRefusedWithTheirTrouble)
 {
     expectBroken(directory / "missing.json", "does not exist");
     expectBroken(write("text.json", "just some text"), "not valid JSON");
+    expectBroken(write("huge-number.json", "{\"format\": \"aec-model-project\", \"version\": 1e999}"),
+                 "not valid JSON");
     expectBroken(write("array.json", "[1, 2, 3]"), "not a JSON object");
 
     json other = savedSample();
@@ -99,6 +101,14 @@ TEST_F(ProjectFileTest, BrokenFilesAreRefusedWithTheirTrouble)
     json badId = savedSample();
     badId["collections"]["tables"][2]["id"] = "12345";
     expectBroken(write("bad-id.json", badId.dump()), "entity 3 of the collection \"tables\"");
+
+    json nilId = savedSample();
+    nilId["collections"]["topics"][0]["id"] = "00000000-0000-0000-0000-000000000000";
+    expectBroken(write("nil-id.json", nilId.dump()), "\"id\" is the nil UUID");
+
+    json unnamedProperty = savedSample();
+    unnamedProperty["collections"]["sheets"][0]["properties"][""] = "1:50";
+    expectBroken(write("unnamed-property.json", unnamedProperty.dump()), "a property without a name");
 
     json lostTopic = savedSample();
     lostTopic["collections"]["topics"].erase(0);

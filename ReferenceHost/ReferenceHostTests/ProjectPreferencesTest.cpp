@@ -1,4 +1,5 @@
 #include "AecModel/ProjectPreferences.h"
+#include "AecModel/WideText.h"
 
 #include "aec/ProjectExplorerGroupInfo.h"
 #include "aec/PropertyAssignmentKey.h"
@@ -79,6 +80,18 @@ TEST(ProjectPreferencesTest, TextThatIsNotJsonIsDroppedWithAWarning)
     preferences.fromJsonText("{\"projectExplorer\": {\"groups\": [");
     EXPECT_EQ(preferences.getProjectExplorerState(), std::nullopt);
     EXPECT_TRUE(anyWarningMentions(preferences, "not valid JSON"));
+
+    // The parser refuses a number beyond double with an error of another kind than a syntax error.
+    preferences.setProjectExplorerState(sampleState());
+    preferences.fromJsonText("{\"projectExplorer\": 1e999}");
+    EXPECT_EQ(preferences.getProjectExplorerState(), std::nullopt);
+    EXPECT_TRUE(anyWarningMentions(preferences, "not valid JSON"));
+
+    // The parser quotes what it read; the warning stays UTF-8 text, which hosts show as it is.
+    preferences.fromJsonText("{\xff\xfe}");
+    ASSERT_EQ(preferences.getWarnings().size(), 1u);
+    EXPECT_TRUE(anyWarningMentions(preferences, "not valid JSON"));
+    EXPECT_NO_THROW(fromUtf8(preferences.getWarnings().front()));
 
     preferences.fromJson(json::array({1, 2}));
     EXPECT_EQ(preferences.getProjectExplorerState(), std::nullopt);
