@@ -1,6 +1,7 @@
 #include "AecModel/EditingService.h"
 
 #include "AecModel/EditCommand.h"
+#include "AecModel/EntityNameRule.h"
 #include "AecModel/Project.h"
 
 #include "Common/Check.h"
@@ -33,7 +34,10 @@ void CEditingService::submit(IEditCommand& command)
     const auto* const edit = dynamic_cast<const CEditCommand*>(&command);
     COMMON_PRECONDITION(edit != nullptr);
     if (edit->getName())
+    {
+        requireAcceptableName(project_, *project_.findEntity(edit->getEntity()), *edit->getName());
         project_.renameEntity(edit->getEntity(), *edit->getName());
+    }
 }
 
 void CEditingService::endEdit(bool success)

@@ -25,7 +25,8 @@ public:
     void beginEdit() override;
     // The entity must exist; an edit must be open.
     std::unique_ptr<IEditCommand> createCommand(const EntityId& entity) override;
-    // The command must come from this service; an edit must be open.
+    // The command must come from this service; an edit must be open. A name is held to the rule of
+    // every rename (see requireAcceptableName): one it breaks throws common::EException.
     void submit(IEditCommand& command) override;
     void endEdit(bool success) override;
 

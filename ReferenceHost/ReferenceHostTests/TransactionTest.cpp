@@ -221,6 +221,28 @@ TEST_F(TransactionTest, EditingServiceMakesItsOwnRenameStep)
     EXPECT_EQ(project.findEntity(sheets[0])->getName(), L"Sheet 1");
 }
 
+TEST_F(TransactionTest, EditingServiceHoldsNamesToTheRuleOfEveryRename)
+{
+    IEditingService& editing = project.getEditingService();
+    const std::string before = project.canonicalDump();
+    for (const std::wstring name : {L"Sheet 2", L"  "})
+    {
+        editing.beginEdit();
+        auto command = editing.createCommand(sheets[0]);
+        command->setName(name);
+        EXPECT_THROW(editing.submit(*command), common::EException) << "name taken or blank";
+        editing.endEdit(false);
+    }
+    EXPECT_EQ(project.canonicalDump(), before);
+
+    editing.beginEdit();
+    auto command = editing.createCommand(sheets[0]);
+    command->setName(L"Sheet 1");
+    editing.submit(*command);
+    editing.endEdit(true);
+    EXPECT_FALSE(project.getUndoHistory().canUndo()) << "keeping its own name is no change";
+}
+
 TEST_F(TransactionTest, OperationGuardAllowsOneOperationAtATime)
 {
     const COperationGuardSource source;

@@ -1,0 +1,206 @@
+#include "ExplorerShell/ExplorerLookup.h"
+
+#include "AecModel/Project.h"
+#include "AecModel/WideText.h"
+#include "Common/Exception.h"
+#include "Common/LogicalCompare.h"
+#include "ExplorerShell/CommandLine.h"
+#include "HostFrame/ExplorerSession.h"
+#include "aec/ProjectExplorer.h"
+#include "aec/ProjectExplorerGroup.h"
+#include "aec/ProjectExplorerGroupInfo.h"
+#include "aec/ProjectExplorerSubgroup.h"
+
+#include <algorithm>
+#include <boost/algorithm/string/predicate.hpp>
+#include <charconv>
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+#include <iterator>
+#include <optional>
+#include <tuple>
+
+namespace aec::shell
+{
+
+namespace
+{
+
+std::optional<int> parseIndex(const CommandWord& word)
+{
+    int index = 0;
+    const char* const end = word.text.data() + word.text.size();
+    const auto [last, error] = std::from_chars(word.text.data(), end, index);
+    if (word.text.empty() || error != std::errc() || last != end)
+        return std::nullopt;
+    return index;
+}
+
+std::string groupNames()
+{
+    std::string names;
+    for (const ProjectExplorerGroupInfo& group : projectExplorerGroups())
+        names += (names.empty() ? "" : ", ") + model::toUtf8(group.name);
+    return names;
+}
+
+} // namespace
+
+CExplorerLookup::CExplorerLookup(host::CExplorerSession& session) : session_(session) {}
+
+int CExplorerLookup::findGroup(const CommandWord& word) const
+{
+    const int count = groupCount();
+    if (const std::optional<int> index = parseIndex(word))
+    {
+        if (*index < 0 || *index >= count)
+            throw common::EException(
+                fmt::format("There is no group {}; groups are numbered 0 to {}.", word.text, count - 1));
+        return *index;
+    }
+    int index = 0;
+    for (const IProjectExplorerGroup& group : session_.getExplorer().getGroups())
+    {
+        if (boost::algorithm::iequals(model::toUtf8(group.getName()), word.text))
+            return index;
+        ++index;
+    }
+    throw common::EException(
+        fmt::format("There is no group \"{}\"; name one of {} or give its number.", word.text, groupNames()));
+}
+
+int CExplorerLookup::findSubgroup(int groupIndex, const CommandWord& word) const
+{
+    const IProjectExplorerGroup& group = getGroup(groupIndex);
+    const auto count = static_cast<int>(std::ranges::distance(group.getSubgroups()));
+    const std::optional<int> index = parseIndex(word);
+    if (!index)
+        throw common::EException(
+            fmt::format("Give the subgroup as its number within {}, not \"{}\".", model::toUtf8(group.getName()),
+                        word.text));
+    if (*index < 0 || *index >= count)
+        throw common::EException(
+            count == 0 ? fmt::format("{} has no subgroups.", model::toUtf8(group.getName()))
+                       : fmt::format("{} has no subgroup {}; its subgroups are numbered 0 to {}.",
+                                     model::toUtf8(group.getName()), word.text, count - 1));
+    return *index;
+}
+
+IProjectExplorerGroup& CExplorerLookup::getGroup(int groupIndex) const
+{
+    return *std::next(session_.getExplorer().getGroups().begin(), groupIndex);
+}
+
+const ProjectExplorerGroupInfo& CExplorerLookup::getGroupInfo(int groupIndex) const
+{
+    const auto& groups = projectExplorerGroups();
+    const auto info = std::ranges::find(groups, getGroup(groupIndex).getId(), &ProjectExplorerGroupInfo::id);
+    if (info == groups.end())
+        throw common::EException("The explorer shows a group that this host does not know.");
+    return *info;
+}
+
+EntityId CExplorerLookup::findEntity(const std::string& name) const
+{
+    const std::wstring wideName = model::fromUtf8(name);
+    std::vector<EntityId> found;
+    std::vector<std::string> places;
+    for (const IProjectExplorerGroup& group : session_.getExplorer().getGroups())
+        for (const IProjectExplorerSubgroup& subgroup : group.getSubgroups())
+            for (const EntityId& id : subgroup.getEntities())
+                if (getEntity(id).getName() == wideName)
+                {
+                    found.push_back(id);
+                    places.push_back(model::toUtf8(group.getName()));
+                }
+    if (found.empty())
+        throw common::EException(fmt::format("No entity is named {}.", CCommandLine::quote(name)));
+    if (found.size() > 1)
+        throw common::EException(fmt::format("{} is ambiguous: {} entities have that name (in {}).",
+                                             CCommandLine::quote(name), found.size(), fmt::join(places, ", ")));
+    return found.front();
+}
+
+EntityIdList CExplorerLookup::entitiesOf(const IProjectExplorerSubgroup& subgroup) const
+{
+    struct NamedEntity
+    {
+        const std::wstring* name;
+        EntityId id;
+    };
+    std::vector<NamedEntity> entities;
+    for (const EntityId& id : subgroup.getEntities())
+        entities.push_back({&getEntity(id).getName(), id});
+    // Names equal but for case or leading zeros fall back on their characters, then on identity, so
+    // that the order never depends on where the entities were before.
+    std::ranges::sort(entities, [](const NamedEntity& left, const NamedEntity& right) {
+        const int order = common::compareLogical(*left.name, *right.name);
+        if (order != 0)
+            return order < 0;
+        return std::tie(*left.name, left.id) < std::tie(*right.name, right.id);
+    });
+    EntityIdList ordered;
+    ordered.reserve(entities.size());
+    for (const NamedEntity& entity : entities)
+        ordered.push_back(entity.id);
+    return ordered;
+}
+
+EntityIdList CExplorerLookup::entitiesOfGroup(int groupIndex) const
+{
+    EntityIdList entities;
+    for (const IProjectExplorerSubgroup& subgroup : getGroup(groupIndex).getSubgroups())
+    {
+        const EntityIdList ofSubgroup = entitiesOf(subgroup);
+        entities.insert(entities.end(), ofSubgroup.begin(), ofSubgroup.end());
+    }
+    return entities;
+}
+
+EntityIdList CExplorerLookup::allEntities() const
+{
+    EntityIdList entities;
+    for (int index = 0; index < groupCount(); ++index)
+    {
+        const EntityIdList ofGroup = entitiesOfGroup(index);
+        entities.insert(entities.end(), ofGroup.begin(), ofGroup.end());
+    }
+    return entities;
+}
+
+EntityIdList CExplorerLookup::inTreeOrder(const EntityIdSet& entities) const
+{
+    EntityIdList ordered;
+    for (const EntityId& id : allEntities())
+        if (entities.contains(id))
+            ordered.push_back(id);
+    return ordered;
+}
+
+const IEntity& CExplorerLookup::getEntity(const EntityId& id) const
+{
+    const IEntity* const entity = session_.getProject().findEntity(id);
+    if (entity == nullptr)
+        throw common::EException(fmt::format("The project has no entity {}.", id.uuid().toString()));
+    return *entity;
+}
+
+std::string CExplorerLookup::quotedName(const EntityId& id) const
+{
+    return CCommandLine::quote(model::toUtf8(getEntity(id).getName()));
+}
+
+std::string CExplorerLookup::quotedNames(const EntityIdList& entities) const
+{
+    std::string names;
+    for (const EntityId& id : entities)
+        names += (names.empty() ? "" : ", ") + quotedName(id);
+    return names;
+}
+
+int CExplorerLookup::groupCount() const
+{
+    return static_cast<int>(std::ranges::distance(session_.getExplorer().getGroups()));
+}
+
+} // namespace aec::shell
