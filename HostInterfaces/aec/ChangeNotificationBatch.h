@@ -13,7 +13,8 @@ public:
 
     // Starts collecting; batches nest.
     virtual void open() = 0;
-    // Stops collecting; the outermost close sends what was collected.
+    // Stops collecting; the outermost close sends what was collected. The batch is closed also when
+    // sending fails (an observer throws).
     virtual void close() = 0;
 };
 

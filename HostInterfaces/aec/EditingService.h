@@ -22,7 +22,8 @@ public:
     virtual std::unique_ptr<IEditCommand> createCommand(const EntityId& entity) = 0;
     // Applies the command.
     virtual void submit(IEditCommand& command) = 0;
-    // Closes the edit; with success false the edit's changes are undone.
+    // Closes the edit; with success false the edit's changes are undone. The edit is closed also
+    // when this throws, and then its changes are undone.
     virtual void endEdit(bool success) = 0;
 };
 

@@ -11,7 +11,8 @@ class AEC_INTERFACE ITransaction
 public:
     virtual ~ITransaction() = default;
 
-    // Makes the changes permanent as one undo step named after the transaction.
+    // Makes the changes permanent as one undo step named after the transaction. A commit that throws
+    // makes no step, and destroying the transaction then leaves the project as it was.
     virtual void commit() = 0;
 };
 

@@ -14,8 +14,9 @@ CFollowingChangesPause::CFollowingChangesPause(aec::IDocumentGui* gui)
 
 CFollowingChangesPause::~CFollowingChangesPause()
 {
-    // Only does something while the paste's own exception is on its way; a failure to give the
-    // flag back cannot travel beside it, and the paste's failure says what went wrong.
+    // Only does something while the paste's own exception is on its way, or when end() failed and
+    // its exception is; a failure to give the flag back cannot travel beside it, and the first
+    // failure says what went wrong.
     try
     {
         end();
@@ -29,9 +30,9 @@ void CFollowingChangesPause::end()
 {
     if (gui_ == nullptr)
         return;
-    aec::IDocumentGui* const gui = gui_;
+    // Forgotten only once given back, so that the destructor tries again after a failure.
+    gui_->setFollowingChanges(wasFollowing_);
     gui_ = nullptr;
-    gui->setFollowingChanges(wasFollowing_);
 }
 
 } // namespace project_explorer

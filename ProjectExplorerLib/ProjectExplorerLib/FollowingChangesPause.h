@@ -20,7 +20,8 @@ public:
     CFollowingChangesPause(const CFollowingChangesPause&) = delete;
     CFollowingChangesPause& operator=(const CFollowingChangesPause&) = delete;
 
-    // Gives the flag back, passing on what the user interface throws. At most once.
+    // Gives the flag back, passing on what the user interface throws; after a failure the
+    // destructor tries once more. Does nothing once the flag is back.
     void end();
 
 private:

@@ -322,6 +322,8 @@ std::wstring CProjectExplorerEntityController::deleteQuestion(const aec::EntityI
 void CProjectExplorerEntityController::renameDirectly(aec::IProject& project, const aec::EntityId& id,
                                                       const std::wstring& newName)
 {
+    // The project records where its direct edits come from; the close is where this one lands.
+    const int originLine = __LINE__;
     aec::IEditingService& editing = project.getEditingService();
     editing.beginEdit();
     try
@@ -329,17 +331,24 @@ void CProjectExplorerEntityController::renameDirectly(aec::IProject& project, co
         const std::unique_ptr<aec::IEditCommand> command = editing.createCommand(id);
         command->setName(newName);
         editing.submit(*command);
+        project.setChangeOrigin(__FILE__, originLine);
     }
     catch (...)
     {
         editing.endEdit(false);
         throw;
     }
-    // The project records where its direct edits come from; the close is where this one lands.
-    const int originLine = __LINE__;
-    project.setChangeOrigin(__FILE__, originLine);
+    // The edit ends also when ending it fails, and then takes its change back.
     editing.endEdit(true);
-    project.setChangeOrigin(__FILE__, originLine);
+    try
+    {
+        project.setChangeOrigin(__FILE__, originLine);
+    }
+    catch (...)
+    {
+        // The rename is made and recorded by now. Naming its origin once more is the project's
+        // bookkeeping; its failure must not report a finished rename as failed.
+    }
 }
 
 } // namespace project_explorer

@@ -50,9 +50,25 @@ void CTransactionHost::commit(std::uint64_t serial)
         return;
     std::vector<ModelChange> changes = std::move(journal_);
     journal_.clear();
-    if (!changes.empty())
-        history_.push(CUndoStep{std::move(name), std::move(changes)});
-    notifier_.flushUnlessBatched();
+    if (changes.empty())
+    {
+        notifier_.flushUnlessBatched();
+        return;
+    }
+    std::vector<CUndoStep> endedRedoSteps = history_.push(CUndoStep{std::move(name), std::move(changes)});
+    try
+    {
+        notifier_.flushUnlessBatched();
+    }
+    catch (...)
+    {
+        // An observer that cannot follow the change fails the commit. The change is taken back, so
+        // that the project and its history are as they were before the transaction, and the
+        // observers hear of that in turn.
+        const CUndoStep step = history_.withdraw(std::move(endedRedoSteps));
+        applier_.replay(step.changes, ChangeDirection::Backward);
+        throw;
+    }
 }
 
 void CTransactionHost::rollBack(std::uint64_t serial)

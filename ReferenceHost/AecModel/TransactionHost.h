@@ -24,6 +24,10 @@ class CUndoHistory;
 // outermost transaction; a transaction that changed nothing leaves no step. Transactions end in the
 // reverse order of opening; rolling back an outer one also rolls back the inner ones still open,
 // whose objects then have nothing left to do.
+//
+// The outermost commit tells the project's observers of the change (unless a change-notification
+// batch holds the news). An observer that fails makes the commit fail as a whole: the change and
+// its undo step are taken back, and the observers hear of that too.
 class CTransactionHost final : public ITransactionHost
 {
 public:

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace aec::model
 {
@@ -79,10 +80,19 @@ std::vector<std::string> CUndoHistory::getRedoNames() const
     return namesFromTop(redoSteps_);
 }
 
-void CUndoHistory::push(CUndoStep step)
+std::vector<CUndoStep> CUndoHistory::push(CUndoStep step)
 {
     undoSteps_.push_back(std::move(step));
-    redoSteps_.clear();
+    return std::exchange(redoSteps_, {});
+}
+
+CUndoStep CUndoHistory::withdraw(std::vector<CUndoStep> endedRedoSteps)
+{
+    COMMON_PRECONDITION(!undoSteps_.empty() && redoSteps_.empty());
+    CUndoStep step = std::move(undoSteps_.back());
+    undoSteps_.pop_back();
+    redoSteps_ = std::move(endedRedoSteps);
+    return step;
 }
 
 void CUndoHistory::replayTop(std::vector<CUndoStep>& from, std::vector<CUndoStep>& to, ChangeDirection direction)

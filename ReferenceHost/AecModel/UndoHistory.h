@@ -36,8 +36,11 @@ public:
     std::vector<std::string> getUndoNames() const;
     std::vector<std::string> getRedoNames() const;
 
-    // A newly committed step; it ends every redo.
-    void push(CUndoStep step);
+    // A newly committed step; it ends every redo. Returns the redo steps it ended, for withdraw.
+    std::vector<CUndoStep> push(CUndoStep step);
+    // Takes the step pushed last off again and brings back the redo steps that its push ended: for
+    // a commit that failed after it recorded its step.
+    CUndoStep withdraw(std::vector<CUndoStep> endedRedoSteps);
     // Forgets every step: the project changed outside of transactions, so no step fits any more.
     void clear() noexcept;
 

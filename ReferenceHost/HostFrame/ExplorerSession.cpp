@@ -10,6 +10,7 @@
 #include "HostFrame/GuiProvider.h"
 #include "HostFrame/PanelOwner.h"
 #include "HostFrame/ProjectBinding.h"
+#include "HostFrame/ServiceDecorator.h"
 #include "HostFrame/StatusService.h"
 #include "HostServices/HostServices.h"
 #include "ProjectExplorerLib/ProjectExplorerExports.h"
@@ -29,7 +30,8 @@
 namespace aec::host
 {
 
-CExplorerSession::CExplorerSession(std::optional<std::uint64_t> uuidSeed)
+CExplorerSession::CExplorerSession(std::optional<std::uint64_t> uuidSeed, IServiceDecorator* serviceDecorator)
+    : serviceDecorator_(serviceDecorator)
 {
     // Identifiers are made from the first factory on, and the sample project a host program may
     // open next is made with them too.
@@ -45,20 +47,28 @@ CExplorerSession::CExplorerSession(std::optional<std::uint64_t> uuidSeed)
         panel_ = &guiProvider_->providePanel(*panelOwner_);
         registerSortButtons();
 
-        CHostServices& services = *hostServices_;
+        CHostServices& host = *hostServices_;
+        const ApplicationServiceSet hostSet{host.getClipboard(),           host.getProxyAppGui(),
+                                            host.getTranslation(),         host.getSessionManager(),
+                                            host.getImportFileDialog(),    host.getPropertyEditor(),
+                                            host.getDialogService(),       host.getTableImporter(),
+                                            host.getPasteDataSerializer(), host.getAttributeValueFormatter()};
+        libraryServices_ = std::make_unique<ApplicationServiceSet>(
+            serviceDecorator_ != nullptr ? serviceDecorator_->decorateApplicationServices(hostSet) : hostSet);
+
+        const ApplicationServiceSet& services = *libraryServices_;
         groupingModelFactory_ = project_explorer::createGroupingModelFactory();
-        groupMaker_ = project_explorer::createGroupMaker(services.getAttributeValueFormatter(),
-                                                         services.getSessionManager());
-        entityProvider_ = project_explorer::createProjectExplorerEntityProvider(services.getSessionManager());
+        groupMaker_ = project_explorer::createGroupMaker(services.formatter, services.sessionManager);
+        entityProvider_ = project_explorer::createProjectExplorerEntityProvider(services.sessionManager);
         explorerFactory_ = project_explorer::createProjectExplorerFactory(*groupingModelFactory_,
                                                                           *groupMaker_, *entityProvider_);
         eventHandlerFactory_ = project_explorer::createProjectExplorerGuiEventHandlerFactory();
         viewCreator_ =
             project_explorer::createViewCreator(*explorerFactory_, *guiProvider_, *eventHandlerFactory_);
         controllerFactory_ = project_explorer::createProjectExplorerEntityControllerFactory(
-            services.getClipboard(), services.getProxyAppGui(), services.getTranslation(),
-            services.getSessionManager(), services.getImportFileDialog(), services.getPropertyEditor(),
-            services.getDialogService(), services.getTableImporter(), services.getPasteDataSerializer());
+            services.clipboard, services.proxyAppGui, services.translation, services.sessionManager,
+            services.importFileDialog, services.propertyEditor, services.dialogService, services.titleBlockIO,
+            services.pasteDataSerializer);
     }
     catch (...)
     {
@@ -85,8 +95,8 @@ void CExplorerSession::open(std::unique_ptr<model::CProject> project)
     COMMON_PRECONDITION(project != nullptr);
     close();
     binding_ = std::make_unique<CProjectBinding>(
-        CProjectBinding::ApplicationParts{*hostServices_, *viewCreator_, *controllerFactory_, *gui_,
-                                          *statusService_, *panelOwner_, *panel_},
+        CProjectBinding::ApplicationParts{*hostServices_, *libraryServices_, serviceDecorator_, *viewCreator_,
+                                          *controllerFactory_, *gui_, *statusService_, *panelOwner_, *panel_},
         std::move(project));
 
     const std::vector<std::string>& warnings = binding_->getProject().getPreferences().getWarnings();

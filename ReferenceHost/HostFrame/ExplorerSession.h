@@ -1,5 +1,6 @@
 #pragma once
 
+#include "HostFrame/ApplicationServiceSet.h"
 #include "HostFrame/HostFrameApi.h"
 #include "aec/EntityId.h"
 
@@ -41,6 +42,7 @@ class CHostServices;
 class CPanelOwner;
 class CProjectBinding;
 class CStatusService;
+class IServiceDecorator;
 
 // The reference host's explorer for one project at a time, made the way the host application
 // makes it, so that a terminal and a desktop program need only show it and pass on what the user
@@ -52,6 +54,10 @@ class CStatusService;
 // makes its controller, its view bound to the GUI and its root activity, which stays active: the
 // explorer is the only view of this host. Opening another project replaces all of these; the GUI,
 // the panel and the host services stay, and so do the connections a host program made to them.
+//
+// A service decorator, when given, stands between the library and the host's services: the library
+// gets what the decorator makes of them, at start-up and for each project opened. It must outlive
+// the session.
 class HOSTFRAME_API CExplorerSession
 {
 public:
@@ -59,7 +65,8 @@ public:
     static constexpr std::wstring_view ascendingLabel = L"Ascending";
     static constexpr std::wstring_view descendingLabel = L"Descending";
 
-    explicit CExplorerSession(std::optional<std::uint64_t> uuidSeed = std::nullopt);
+    explicit CExplorerSession(std::optional<std::uint64_t> uuidSeed = std::nullopt,
+                              IServiceDecorator* serviceDecorator = nullptr);
     // Closes the project and uninstalls the uuid provider.
     ~CExplorerSession();
     CExplorerSession(const CExplorerSession&) = delete;
@@ -98,7 +105,10 @@ private:
     CProjectBinding& binding();
     void registerSortButtons();
 
+    IServiceDecorator* serviceDecorator_;
     std::unique_ptr<CHostServices> hostServices_;
+    // What the library is given of the host services: the services themselves or their decoration.
+    std::unique_ptr<ApplicationServiceSet> libraryServices_;
     std::unique_ptr<CGui> gui_;
     std::unique_ptr<CStatusService> statusService_;
     std::unique_ptr<CPanelOwner> panelOwner_;

@@ -6,9 +6,12 @@
 #include "HostFrame/Gui.h"
 #include "HostFrame/HostContext.h"
 #include "HostFrame/PanelOwner.h"
+#include "HostFrame/ProjectServiceSet.h"
+#include "HostFrame/ServiceDecorator.h"
 #include "HostFrame/StatusService.h"
 #include "HostServices/HostServices.h"
 #include "aec/ProjectExplorer.h"
+#include "aec/ProjectExplorerEntityControllerFactory.h"
 #include "aec/ProjectExplorerGroup.h"
 #include "aec/ProjectExplorerGroupInfo.h"
 #include "aec/ProjectExplorerGroupingModel.h"
@@ -63,11 +66,23 @@ void CProjectBinding::bind()
 
     projectServices_ = std::make_unique<model::CProjectServices>(*project_);
     hostContext_ = std::make_unique<CHostContext>(*project_, services.getPropertyCatalog());
-    controller_ = projectServices_->createController(application_.controllerFactory);
-    view_ = application_.viewCreator.createView(application_.panelOwner, *hostContext_,
-                                                project_->getPreferences(), *controller_,
-                                                services.getTranslation(), services.getSessionManager(),
-                                                project_->getObjectEvents(), services.getClipboard());
+    model::CProjectServices& own = *projectServices_;
+    const ProjectServiceSet ownSet{own.getClassifier(),      own.getEntitySource(),
+                                   own.getCopyDataBuilder(), own.getSheetHandler(),
+                                   own.getTableHandler(),    own.getAssemblyHandler(),
+                                   own.getMaterialHandler(), own.getOperationGuardSource(),
+                                   own.getPasteHandler(),    project_->getPreferences()};
+    const ProjectServiceSet project = application_.serviceDecorator != nullptr
+                                          ? application_.serviceDecorator->decorateProjectServices(ownSet)
+                                          : ownSet;
+    const ApplicationServiceSet& library = application_.libraryServices;
+    controller_ = application_.controllerFactory.createController(
+        project.classifier, project.entitySource, project.copyDataBuilder, project.sheetHandler,
+        project.tableHandler, project.assemblyHandler, project.materialHandler, project.operationGuardSource,
+        project.pasteHandler);
+    view_ = application_.viewCreator.createView(application_.panelOwner, *hostContext_, project.preferences,
+                                                *controller_, library.translation, library.sessionManager,
+                                                project_->getObjectEvents(), library.clipboard);
     view_->setStatusService(&application_.statusService);
     view_->setClipboardListenerRegistry(&services.getClipboard());
     view_->setGui(&application_.gui);

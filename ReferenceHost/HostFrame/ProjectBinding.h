@@ -2,6 +2,7 @@
 
 #include "AecModel/Project.h"
 #include "AecModel/ProjectServices.h"
+#include "HostFrame/ApplicationServiceSet.h"
 #include "aec/Activity.h"
 #include "aec/NonDrawingView.h"
 #include "aec/ProjectExplorerEntityController.h"
@@ -24,6 +25,7 @@ class CHostContext;
 class CHostServices;
 class CPanelOwner;
 class CStatusService;
+class IServiceDecorator;
 
 // Everything of an explorer session that belongs to one open project: the project as the current
 // one, its document's user interface, its services, the host context, the entity controller, the
@@ -33,10 +35,13 @@ class CProjectBinding
 {
 public:
     // The application parts must outlive the binding; the panel must be the one that the view
-    // creator hands out for the owner.
+    // creator hands out for the owner. The library gets the library services, and the project's
+    // services as the decorator, if any, makes them.
     struct ApplicationParts
     {
         CHostServices& hostServices;
+        const ApplicationServiceSet& libraryServices;
+        IServiceDecorator* serviceDecorator;
         const IProjectExplorerViewCreator& viewCreator;
         const IProjectExplorerEntityControllerFactory& controllerFactory;
         CGui& gui;

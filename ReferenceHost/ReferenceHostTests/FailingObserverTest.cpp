@@ -1,0 +1,120 @@
+#include "AecModel/Project.h"
+#include "Common/Exception.h"
+#include "aec/ObjectEvents.h"
+#include "aec/Transaction.h"
+
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace aec::model
+{
+namespace
+{
+
+// An observer of the project that fails the next times it is told of a change, as an explorer
+// does whose host services fail while it follows the project.
+class CFailingObserver final : public IObjectEvents
+{
+public:
+    explicit CFailingObserver(CProject& project) : project_(project)
+    {
+        project_.getObjectEvents().addObserver(*this);
+    }
+    ~CFailingObserver() override { project_.getObjectEvents().removeObserver(*this); }
+    CFailingObserver(const CFailingObserver&) = delete;
+    CFailingObserver& operator=(const CFailingObserver&) = delete;
+
+    void onProjectOpened() override {}
+    void onObjectsChanged(std::uint32_t, std::uint32_t, const EntityIdSet& changed,
+                          const EntityIdSet&) override
+    {
+        heard.push_back(project_.canonicalDump());
+        heardChanged.push_back(changed);
+        if (failures > 0)
+        {
+            --failures;
+            throw common::EException("the observer cannot follow");
+        }
+    }
+    void onProjectClosing() override {}
+
+    int failures = 0;
+    // The project as each event found it, and what it said had changed.
+    std::vector<std::string> heard;
+    std::vector<EntityIdSet> heardChanged;
+
+private:
+    CProject& project_;
+};
+
+// A project with one step to undo and one to redo.
+class FailingObserverTest : public ::testing::Test
+{
+protected:
+    FailingObserverTest()
+    {
+        sheet = project.addEntity(EntityCollection::Sheets, L"Sheet 1");
+        rename(L"Sheet 2", "Rename to 2");
+        rename(L"Sheet 3", "Rename to 3");
+        project.getUndoHistory().undo();
+    }
+
+    void rename(const std::wstring& name, const std::string& step)
+    {
+        const std::unique_ptr<ITransaction> transaction = project.getTransactionHost().openTransaction(step);
+        project.renameEntity(sheet, name);
+        transaction->commit();
+    }
+
+    CProject project;
+    EntityId sheet;
+};
+
+TEST_F(FailingObserverTest, ACommitThatAnObserverCannotFollowChangesNothing)
+{
+    const std::string before = project.canonicalDump();
+    CFailingObserver observer(project);
+    observer.failures = 1;
+
+    EXPECT_THROW(rename(L"Sheet 4", "Rename to 4"), common::EException);
+    EXPECT_EQ(project.canonicalDump(), before);
+    EXPECT_EQ(project.getUndoHistory().getUndoNames(), std::vector<std::string>{"Rename to 2"});
+    EXPECT_EQ(project.getUndoHistory().getRedoNames(), std::vector<std::string>{"Rename to 3"})
+        << "the failed commit's step does not end the redo";
+    ASSERT_EQ(observer.heard.size(), 2u) << "the observer hears of the change and then of its rollback";
+    EXPECT_NE(observer.heard[0], before);
+    EXPECT_EQ(observer.heard[1], before);
+    EXPECT_EQ(observer.heardChanged[1], EntityIdSet{sheet});
+
+    rename(L"Sheet 4", "Rename to 4");
+    EXPECT_EQ(project.getUndoHistory().getUndoNames(),
+              (std::vector<std::string>{"Rename to 4", "Rename to 2"}));
+    EXPECT_TRUE(project.getUndoHistory().getRedoNames().empty());
+}
+
+TEST_F(FailingObserverTest, ARollbackThatAnObserverCannotFollowStillCompletes)
+{
+    const std::string before = project.canonicalDump();
+    CFailingObserver observer(project);
+    observer.failures = 2;
+
+    // The commit's news fails, and so does the news of the rollback that follows.
+    EXPECT_THROW(rename(L"Sheet 4", "Rename to 4"), common::EException);
+    EXPECT_EQ(project.canonicalDump(), before);
+
+    {
+        const std::unique_ptr<ITransaction> dropped = project.getTransactionHost().openTransaction("Dropped");
+        project.renameEntity(sheet, L"Sheet 5");
+        project.removeEntity(sheet);
+        // Dropping the transaction rolls it back, and the observer fails to follow the rollback.
+        observer.failures = 1;
+    }
+    EXPECT_EQ(project.canonicalDump(), before)
+        << "the destroyed transaction rolled back despite the observer";
+    EXPECT_EQ(project.getUndoHistory().getUndoNames(), std::vector<std::string>{"Rename to 2"});
+}
+
+} // namespace
+} // namespace aec::model
