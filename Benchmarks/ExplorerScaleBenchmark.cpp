@@ -45,6 +45,27 @@ void countOperations(benchmark::State& state, std::int64_t perIteration)
     state.SetItemsProcessed(state.iterations() * perIteration);
 }
 
+// Times `act` alone in each iteration; `prepare` before it and `restore` after it run with the
+// timer paused, so that every iteration starts from the same session. Pausing costs microseconds,
+// which the milliseconds of these operations make up for.
+template <class Prepare, class Act, class Restore>
+void timeBetween(benchmark::State& state, Prepare prepare, Act act, Restore restore)
+{
+    for (auto _ : state)
+    {
+        state.PauseTiming();
+        prepare();
+        state.ResumeTiming();
+        act();
+        state.PauseTiming();
+        restore();
+        state.ResumeTiming();
+    }
+    countOperations(state, 1);
+}
+
+void nothing() {}
+
 // The largest group's collection is one of the four whose entities the explorer deletes.
 aec::EntityCollection largestCollection(CScaleSession& scale)
 {
@@ -56,32 +77,35 @@ void BM_MakeExplorer(benchmark::State& state)
     CScaleSession& scale = sessionOf(state);
     aec::host::CExplorerSession& session = scale.session();
     aec::model::CProject& project = session.getProject();
-    const aec::IProjectExplorerFactory& factory = session.getExplorerFactory();
-    for (auto _ : state)
-    {
-        auto explorer = factory.createProjectExplorer(project.getPreferences(), project,
-                                                      session.getHostServices().getPropertyCatalog());
-        state.PauseTiming();
-        explorer.reset();
-        state.ResumeTiming();
-    }
-    countOperations(state, 1);
+    std::unique_ptr<aec::IProjectExplorer> explorer;
+    timeBetween(
+        state, nothing,
+        [&]
+        {
+            explorer = session.getExplorerFactory().createProjectExplorer(
+                project.getPreferences(), project, session.getHostServices().getPropertyCatalog());
+        },
+        [&explorer] { explorer.reset(); });
 }
+
+// Chooses a value of the largest group's grouping criterion as the user does.
+auto chooseGrouping(CScaleSession& scale, const std::wstring& value)
+{
+    return [&scale, value]
+    {
+        const aec::host::GroupingButtonIds buttons = scale.largestGroupButtons();
+        scale.session().getGui().chooseButtonValue(buttons.panel, buttons.groupCriterion, value);
+    };
+}
+
+const std::wstring noGrouping = L"0";
 
 // None to topic: every entity of the group is formatted, bucketed and ordered.
 void BM_RegroupToTopic(benchmark::State& state)
 {
     CScaleSession& scale = sessionOf(state);
-    aec::host::CGui& gui = scale.session().getGui();
-    const aec::host::GroupingButtonIds buttons = scale.largestGroupButtons();
-    for (auto _ : state)
-    {
-        state.PauseTiming();
-        gui.chooseButtonValue(buttons.panel, buttons.groupCriterion, L"0");
-        state.ResumeTiming();
-        gui.chooseButtonValue(buttons.panel, buttons.groupCriterion, scale.topicGroupingValue());
-    }
-    countOperations(state, 1);
+    timeBetween(state, chooseGrouping(scale, noGrouping), chooseGrouping(scale, scale.topicGroupingValue()),
+                nothing);
     state.counters["entities"] =
         static_cast<double>(scale.session().getProject().getEntities(largestCollection(scale)).size());
 }
@@ -90,16 +114,8 @@ void BM_RegroupToTopic(benchmark::State& state)
 void BM_RegroupToNone(benchmark::State& state)
 {
     CScaleSession& scale = sessionOf(state);
-    aec::host::CGui& gui = scale.session().getGui();
-    const aec::host::GroupingButtonIds buttons = scale.largestGroupButtons();
-    for (auto _ : state)
-    {
-        gui.chooseButtonValue(buttons.panel, buttons.groupCriterion, L"0");
-        state.PauseTiming();
-        gui.chooseButtonValue(buttons.panel, buttons.groupCriterion, scale.topicGroupingValue());
-        state.ResumeTiming();
-    }
-    countOperations(state, 1);
+    timeBetween(state, nothing, chooseGrouping(scale, noGrouping),
+                chooseGrouping(scale, scale.topicGroupingValue()));
 }
 
 void BM_FlipSortOrder(benchmark::State& state)
@@ -142,32 +158,28 @@ void BM_FoldSubgroup(benchmark::State& state)
     countOperations(state, 2);
 }
 
+// Selects or deselects every entity through the panel, as a click with the shift key would.
+auto selectAll(CScaleSession& scale, bool select)
+{
+    return [&scale, select]
+    {
+        if (select)
+            scale.session().getPanel().changeSelection(scale.allEntities(), {});
+        else
+            scale.session().getPanel().changeSelection({}, scale.allEntities());
+    };
+}
+
 void BM_SelectAll(benchmark::State& state)
 {
     CScaleSession& scale = sessionOf(state);
-    aec::host::CExplorerPanel& panel = scale.session().getPanel();
-    for (auto _ : state)
-    {
-        panel.changeSelection(scale.allEntities(), {});
-        state.PauseTiming();
-        panel.changeSelection({}, scale.allEntities());
-        state.ResumeTiming();
-    }
-    countOperations(state, 1);
+    timeBetween(state, nothing, selectAll(scale, true), selectAll(scale, false));
 }
 
 void BM_SelectNone(benchmark::State& state)
 {
     CScaleSession& scale = sessionOf(state);
-    aec::host::CExplorerPanel& panel = scale.session().getPanel();
-    for (auto _ : state)
-    {
-        state.PauseTiming();
-        panel.changeSelection(scale.allEntities(), {});
-        state.ResumeTiming();
-        panel.changeSelection({}, scale.allEntities());
-    }
-    countOperations(state, 1);
+    timeBetween(state, selectAll(scale, true), selectAll(scale, false), nothing);
 }
 
 // A click with the control key on one more entity, and another that takes it away again.
@@ -188,41 +200,45 @@ void BM_SelectOneMore(benchmark::State& state)
     countOperations(state, 2);
 }
 
+// `count` entities of the largest group, selected through the panel.
+auto selectSpread(CScaleSession& scale, std::size_t count)
+{
+    return [&scale, chosen = scale.spreadOver(largestCollection(scale), count)]
+    {
+        scale.session().getPanel().changeSelection(chosen, {});
+    };
+}
+
+void runCommand(CScaleSession& scale, int command)
+{
+    scale.session().getGui().runCommand(command);
+}
+
+void undo(CScaleSession& scale)
+{
+    scale.session().getUndoHistory().undo();
+}
+
 // Delete with the confirmation answered yes, including the rebuild of the groups it touches.
 void BM_Delete(benchmark::State& state)
 {
     CScaleSession& scale = sessionOf(state);
-    aec::host::CExplorerSession& session = scale.session();
-    const aec::EntityIdSet chosen =
-        scale.spreadOver(largestCollection(scale), static_cast<std::size_t>(state.range(1)));
-    for (auto _ : state)
-    {
-        state.PauseTiming();
-        session.getPanel().changeSelection(chosen, {});
-        state.ResumeTiming();
-        session.getGui().runCommand(aec::commands::deleteSelection);
-        state.PauseTiming();
-        session.getUndoHistory().undo();
-        state.ResumeTiming();
-    }
-    countOperations(state, 1);
+    timeBetween(
+        state, selectSpread(scale, static_cast<std::size_t>(state.range(1))),
+        [&scale] { runCommand(scale, aec::commands::deleteSelection); }, [&scale] { undo(scale); });
 }
 
 void BM_UndoDelete(benchmark::State& state)
 {
     CScaleSession& scale = sessionOf(state);
-    aec::host::CExplorerSession& session = scale.session();
-    const aec::EntityIdSet chosen =
-        scale.spreadOver(largestCollection(scale), static_cast<std::size_t>(state.range(1)));
-    for (auto _ : state)
-    {
-        state.PauseTiming();
-        session.getPanel().changeSelection(chosen, {});
-        session.getGui().runCommand(aec::commands::deleteSelection);
-        state.ResumeTiming();
-        session.getUndoHistory().undo();
-    }
-    countOperations(state, 1);
+    timeBetween(
+        state,
+        [&scale, select = selectSpread(scale, static_cast<std::size_t>(state.range(1)))]
+        {
+            select();
+            runCommand(scale, aec::commands::deleteSelection);
+        },
+        [&scale] { undo(scale); }, nothing);
 }
 
 void BM_Copy(benchmark::State& state)
@@ -242,20 +258,13 @@ void BM_Copy(benchmark::State& state)
 void BM_Paste(benchmark::State& state)
 {
     CScaleSession& scale = sessionOf(state);
-    aec::host::CExplorerSession& session = scale.session();
     const aec::EntityIdSet chosen =
         scale.spreadOver(largestCollection(scale), static_cast<std::size_t>(state.range(1)));
-    session.getPanel().changeSelection(chosen, {});
-    session.getGui().runCommand(aec::commands::copy);
-    session.getPanel().changeSelection({}, chosen);
-    for (auto _ : state)
-    {
-        session.getGui().runCommand(aec::commands::paste);
-        state.PauseTiming();
-        session.getUndoHistory().undo();
-        state.ResumeTiming();
-    }
-    countOperations(state, 1);
+    scale.session().getPanel().changeSelection(chosen, {});
+    runCommand(scale, aec::commands::copy);
+    scale.session().getPanel().changeSelection({}, chosen);
+    timeBetween(
+        state, nothing, [&scale] { runCommand(scale, aec::commands::paste); }, [&scale] { undo(scale); });
 }
 
 void countGroupableEntities(benchmark::State& state, CScaleSession& scale)
@@ -294,16 +303,14 @@ void BM_QtTreePeer(benchmark::State& state)
 {
     CScaleSession& scale = sessionOf(state);
     aec::host::CExplorerSession& session = scale.session();
-    for (auto _ : state)
-    {
-        std::unique_ptr<QStandardItemModel> tree =
-            buildQtExplorerTree(session.getProject(), session.getHostServices().getAttributeValueFormatter());
-        benchmark::DoNotOptimize(tree.get());
-        state.PauseTiming();
-        tree.reset();
-        state.ResumeTiming();
-    }
-    countOperations(state, 1);
+    std::unique_ptr<QStandardItemModel> tree;
+    timeBetween(
+        state, nothing,
+        [&] {
+            tree = buildQtExplorerTree(session.getProject(),
+                                       session.getHostServices().getAttributeValueFormatter());
+        },
+        [&tree] { tree.reset(); });
     countGroupableEntities(state, scale);
 }
 

@@ -3,10 +3,10 @@
 #include "AecModel/EntityCollectionInfo.h"
 #include "AecModel/Project.h"
 #include "Common/UUID.h"
+#include "SyntheticProject/AsciiCase.h"
 
 #include <algorithm>
 #include <cmath>
-#include <cwctype>
 #include <fmt/format.h>
 #include <fmt/xchar.h>
 #include <optional>
@@ -296,14 +296,9 @@ std::wstring CSyntheticProjectBuilder::imageName(std::size_t serialNumber)
 
 void CSyntheticProjectBuilder::varyCase(std::wstring& name)
 {
-    const std::size_t variant = below(25);
-    if (variant > 2)
-        return;
-    // Lower case twice as often as capitals; letters outside ASCII stay as typed.
-    for (wchar_t& character : name)
-        if (character < 0x80)
-            character = static_cast<wchar_t>(variant < 2 ? std::towlower(static_cast<wint_t>(character))
-                                                         : std::towupper(static_cast<wint_t>(character)));
+    // Lower case twice as often as capitals.
+    if (const std::size_t variant = below(25); variant <= 2)
+        setAsciiCase(name, variant == 2);
 }
 
 } // namespace benchmarks
