@@ -1,6 +1,7 @@
 #include "BimNameGenerator.h"
 
-#include <cwctype>
+#include "SyntheticProject/AsciiCase.h"
+
 #include <fmt/format.h>
 #include <fmt/xchar.h>
 #include <stdexcept>
@@ -143,13 +144,8 @@ std::wstring CBimNameGenerator::scheduleName()
 // Users type names in any case; the comparison must see "door" and "Door" as one name.
 void CBimNameGenerator::varyCase(std::wstring& name)
 {
-    const std::size_t variant = below(10);
-    if (variant > 1)
-        return;
-    for (wchar_t& character : name)
-        if (character < 0x80)
-            character = static_cast<wchar_t>(variant == 0 ? std::towlower(static_cast<wint_t>(character))
-                                                          : std::towupper(static_cast<wint_t>(character)));
+    if (const std::size_t variant = below(10); variant <= 1)
+        setAsciiCase(name, variant == 1);
 }
 
 std::wstring CBimNameGenerator::next()

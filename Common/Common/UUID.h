@@ -3,6 +3,7 @@
 #include "Common/CommonApi.h"
 
 #include <array>
+#include <boost/endian/conversion.hpp>
 #include <compare>
 #include <cstddef>
 #include <cstdint>
@@ -11,6 +12,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 namespace common
 {
@@ -69,9 +71,30 @@ public:
     // 64-bit hash over the bytes in text order (storage bytes 3, 2, 1, 0, 5, 4, 7, 6, 8 to 15).
     constexpr std::uint64_t hash() const noexcept;
 
-    friend constexpr bool operator==(const UUID&, const UUID&) noexcept = default;
+    friend constexpr bool operator==(const UUID& left, const UUID& right) noexcept
+    {
+        if (std::is_constant_evaluated())
+            return left.bytes_ == right.bytes_;
+        // As two words, for the reason given at the ordering below.
+        return boost::endian::load_little_u64(left.bytes_.data()) ==
+                   boost::endian::load_little_u64(right.bytes_.data()) &&
+               boost::endian::load_little_u64(left.bytes_.data() + 8) ==
+                   boost::endian::load_little_u64(right.bytes_.data() + 8);
+    }
     // Lexicographic over the storage bytes, each compared as unsigned.
-    friend constexpr std::strong_ordering operator<=>(const UUID&, const UUID&) noexcept = default;
+    friend constexpr std::strong_ordering operator<=>(const UUID& left, const UUID& right) noexcept
+    {
+        if (std::is_constant_evaluated())
+            return left.bytes_ <=> right.bytes_;
+        // Two big-endian words order as their sixteen bytes do. The byte-wise comparison would be a
+        // call to memcmp, and sets of identifiers compare at every step of every descent.
+        const std::uint64_t leftHigh = boost::endian::load_big_u64(left.bytes_.data());
+        const std::uint64_t rightHigh = boost::endian::load_big_u64(right.bytes_.data());
+        if (leftHigh != rightHigh)
+            return leftHigh <=> rightHigh;
+        return boost::endian::load_big_u64(left.bytes_.data() + 8) <=>
+               boost::endian::load_big_u64(right.bytes_.data() + 8);
+    }
 
     // For each byte of the text form in turn, the index of the storage byte that it shows.
     static constexpr std::array<std::uint8_t, 16> textOrder{3, 2, 1,  0,  5,  4,  7,  6,

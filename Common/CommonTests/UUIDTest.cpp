@@ -142,6 +142,13 @@ TEST(UUIDTest, OrderFollowsStorageBytesWhileHashFollowsTextOrder)
     EXPECT_EQ(first.hash(), hashOfText(first.toString()));
     EXPECT_EQ(second.hash(), hashOfText(second.toString()));
     EXPECT_LT(UUID(UUID::Bytes{0x7f}), UUID(UUID::Bytes{0x80})) << "bytes compare as unsigned";
+    // The first eight bytes decide before the last eight, and each half byte by byte in order.
+    const UUID lateDifference(UUID::Bytes{5, 5, 5, 5, 5, 5, 5, 5, 0, 0, 0, 0, 0, 0, 0, 0xff});
+    EXPECT_LT(lateDifference, UUID(UUID::Bytes{5, 5, 5, 5, 5, 5, 5, 5, 0, 0, 0, 0, 0, 0, 1, 0}));
+    EXPECT_GT(lateDifference, UUID(UUID::Bytes{5, 5, 5, 5, 5, 5, 5, 4, 0xff, 0xff}));
+    EXPECT_LT(UUID(UUID::Bytes{0, 0, 0, 0, 0, 0, 0, 0xff}), UUID(UUID::Bytes{0, 0, 0, 0, 0, 0, 1, 0}));
+    EXPECT_EQ(lateDifference <=> UUID(lateDifference.bytes()), std::strong_ordering::equal);
+    static_assert(UUID(UUID::Bytes{1}) > UUID(UUID::Bytes{0, 0xff}), "the same order when constant");
 
     const UUID sample = UUID::parse(sampleText);
     EXPECT_EQ(std::hash<UUID>{}(sample), hashOfText(sampleText));

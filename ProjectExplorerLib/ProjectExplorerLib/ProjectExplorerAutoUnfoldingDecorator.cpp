@@ -1,23 +1,27 @@
 #include "ProjectExplorerLib/ProjectExplorerAutoUnfoldingDecorator.h"
 
-#include "ProjectExplorerLib/SubgroupLookup.h"
+#include "ProjectExplorerLib/SubgroupMembership.h"
 
 #include "aec/ProjectExplorerEntitySelection.h"
 #include "aec/ProjectExplorerGroup.h"
 #include "aec/ProjectExplorerSubgroup.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <unordered_map>
+#include <vector>
 
 namespace project_explorer
 {
 
 struct CProjectExplorerAutoUnfoldingDecorator::WatchedGroup
 {
-    explicit WatchedGroup(aec::IProjectExplorerGroup& watchedGroup) : group(watchedGroup), lookup(watchedGroup) {}
+    explicit WatchedGroup(aec::IProjectExplorerGroup& watchedGroup) : group(watchedGroup) {}
 
     aec::IProjectExplorerGroup& group;
-    CSubgroupLookup lookup;
+    // Counts the group's rebuilds that made or destroyed subgroups, so that a loop over subgroups
+    // notices when one of them may be gone.
+    std::size_t rebuilds = 0;
     boost::signals2::scoped_connection subgroupsChanged;
     // A connection that no longer reads as connected belongs to a subgroup that died; its address
     // may since have been taken by a new subgroup, which must then count as new.
@@ -76,42 +80,44 @@ void CProjectExplorerAutoUnfoldingDecorator::onSelectionChanged(const aec::Entit
     if (added.empty())
         return;
     for (const auto& watched : watchedGroups_)
+        unfoldHolders(*watched, added, nullptr);
+}
+
+void CProjectExplorerAutoUnfoldingDecorator::unfoldHolders(WatchedGroup& watched, const aec::EntityIdSet& entities,
+                                                           const SubgroupSet* candidates)
+{
+    // Asking each subgroup whether it holds any of the entities costs far less, for one entity and
+    // for all of them alike, than finding the subgroup of each entity.
+    std::vector<aec::IProjectExplorerSubgroup*> holders;
+    for (aec::IProjectExplorerSubgroup& subgroup : watched.group.getSubgroups())
+        if ((candidates == nullptr || candidates->contains(&subgroup)) && holdsAnyOf(subgroup, entities))
+            holders.push_back(&subgroup);
+
+    const std::size_t rebuilds = watched.rebuilds;
+    for (aec::IProjectExplorerSubgroup* subgroup : holders)
     {
-        for (const aec::EntityId& entity : added)
-        {
-            if (aec::IProjectExplorerSubgroup* holder = watched->lookup.findHolder(entity))
-                unfold(watched->group, *holder);
-        }
+        // A listener of an unfold rebuilt the group, so the subgroups left may be gone; the current
+        // ones are asked again (those already unfolded stay so and say nothing).
+        if (watched.rebuilds != rebuilds)
+            return unfoldHolders(watched, entities, nullptr);
+        unfold(watched.group, *subgroup);
     }
 }
 
 void CProjectExplorerAutoUnfoldingDecorator::onSubgroupsChanged(WatchedGroup& watched)
 {
-    watched.lookup.invalidate();
-    SubgroupSet made = reconnectSubgroups(watched);
+    ++watched.rebuilds;
+    const SubgroupSet made = reconnectSubgroups(watched);
 
     const aec::EntityIdSet& selection = getExplorer().getEntitySelection().getSelection();
-    if (made.empty() || selection.empty())
-        return;
-
-    std::vector<aec::IProjectExplorerSubgroup*> toUnfold;
-    for (const aec::EntityId& entity : selection)
-    {
-        // Taking a subgroup out of `made` lists each one once, however many selected entities it holds.
-        aec::IProjectExplorerSubgroup* holder = watched.lookup.findHolder(entity);
-        if (holder != nullptr && made.erase(holder) > 0)
-            toUnfold.push_back(holder);
-    }
-    for (aec::IProjectExplorerSubgroup* subgroup : toUnfold)
-        unfold(watched.group, *subgroup);
+    if (!made.empty() && !selection.empty())
+        unfoldHolders(watched, selection, &made);
 }
 
 void CProjectExplorerAutoUnfoldingDecorator::onEntitiesChanged(WatchedGroup& watched,
                                                                aec::IProjectExplorerSubgroup& subgroup,
                                                                const aec::EntityChangeset& changeset)
 {
-    watched.lookup.invalidate();
-
     const aec::EntityIdSet& selection = getExplorer().getEntitySelection().getSelection();
     const aec::EntityIdSet& added = changeset.getAdded();
     if (std::any_of(added.begin(), added.end(), [&selection](const aec::EntityId& entity) { return selection.contains(entity); }))

@@ -36,6 +36,9 @@ private:
     // Watches every current subgroup of the group exactly once; returns those not watched before.
     SubgroupSet reconnectSubgroups(WatchedGroup& watched);
     void onSelectionChanged(const aec::EntityIdSet& added);
+    // Unfolds the group's subgroups that hold any of the entities, among `candidates` only when
+    // given; starts over when a listener of an unfold rebuilt the group.
+    void unfoldHolders(WatchedGroup& watched, const aec::EntityIdSet& entities, const SubgroupSet* candidates);
     void onSubgroupsChanged(WatchedGroup& watched);
     void onEntitiesChanged(WatchedGroup& watched, aec::IProjectExplorerSubgroup& subgroup,
                            const aec::EntityChangeset& changeset);

@@ -120,8 +120,8 @@ CProjectExplorerGroup::SubgroupsByName CProjectExplorerGroup::takeSubgroupsByNam
     for (auto& subgroup : subgroups_)
     {
         COMMON_CHECK(subgroup != nullptr);
-        std::wstring name = subgroup->getName();
-        byName.emplace(std::move(name), std::move(subgroup));
+        const std::wstring_view name = subgroup->getName();
+        byName.emplace(name, std::move(subgroup));
     }
     subgroups_.clear();
     return byName;

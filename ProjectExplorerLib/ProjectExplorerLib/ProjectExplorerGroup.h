@@ -6,9 +6,10 @@
 
 #include <boost/signals2/connection.hpp>
 
-#include <map>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace aec
@@ -45,7 +46,9 @@ public:
     aec::VoidSignal& expandedChangedSignal() const override;
 
 private:
-    using SubgroupsByName = std::map<std::wstring, std::unique_ptr<CProjectExplorerSubgroup>>;
+    // Keyed by views of the subgroups' own names, which live as long as the subgroups and never
+    // change: a rebuild then copies no name and finds each kept subgroup by one hash.
+    using SubgroupsByName = std::unordered_map<std::wstring_view, std::unique_ptr<CProjectExplorerSubgroup>>;
 
     SubgroupsByName takeSubgroupsByName();
     // Appends the maker's subgroups in its order, reusing those of `previous` by name; sets

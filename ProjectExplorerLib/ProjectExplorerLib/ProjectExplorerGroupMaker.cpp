@@ -8,6 +8,7 @@
 
 #include "Common/LogicalCompare.h"
 
+#include <algorithm>
 #include <map>
 #include <string_view>
 #include <unordered_map>
@@ -33,7 +34,15 @@ private:
     bool ascending_;
 };
 
-using ExactBuckets = std::unordered_map<std::wstring, aec::EntityIdSet>;
+// Identifiers gather in vectors first: sorting a vector and building the set from the sorted run
+// appends every node at the set's end, where inserting each identifier would descend the tree.
+using ExactBuckets = std::unordered_map<std::wstring, aec::EntityIdList>;
+
+aec::EntityIdSet sortedSetOf(aec::EntityIdList& entities)
+{
+    std::sort(entities.begin(), entities.end());
+    return aec::EntityIdSet(entities.begin(), entities.end());
+}
 
 } // namespace
 
@@ -52,7 +61,13 @@ std::vector<aec::SubgroupDescriptor> CProjectExplorerGroupMaker::makeSubgroups(c
     if (entityIds.empty())
         return {};
     if (key == aec::PropertyAssignmentKey::noGrouping())
-        return {{L"", aec::EntityIdSet(entityIds.begin(), entityIds.end())}};
+    {
+        // Emplaced rather than listed in braces, which would copy the set out of an initializer list.
+        aec::EntityIdList all = entityIds;
+        std::vector<aec::SubgroupDescriptor> single;
+        single.push_back({L"", sortedSetOf(all)});
+        return single;
+    }
 
     const aec::IProject& project = sessionManager_.getCurrentProject();
 
@@ -73,23 +88,23 @@ std::vector<aec::SubgroupDescriptor> CProjectExplorerGroupMaker::makeSubgroups(c
         auto [bucket, made] = buckets.try_emplace(formatter_.format(entity->getPropertyValue(key)));
         if (made)
             firstOccurrence.push_back(&*bucket);
-        bucket->second.insert(id);
+        bucket->second.push_back(id);
     }
 
     // The unordered map's nodes do not move, so its names can key the ordered map as views.
-    std::map<std::wstring_view, aec::EntityIdSet*, CLogicalNameOrder> ordered(
+    std::map<std::wstring_view, aec::EntityIdList*, CLogicalNameOrder> ordered(
         CLogicalNameOrder(sortOrder == aec::IProjectExplorerGroupingModel::ascending));
     for (ExactBuckets::value_type* bucket : firstOccurrence)
     {
         auto [merged, made] = ordered.try_emplace(bucket->first, &bucket->second);
         if (!made)
-            merged->second->merge(bucket->second);
+            merged->second->insert(merged->second->end(), bucket->second.begin(), bucket->second.end());
     }
 
     std::vector<aec::SubgroupDescriptor> descriptors;
     descriptors.reserve(ordered.size());
     for (const auto& [name, entities] : ordered)
-        descriptors.push_back({std::wstring(name), std::move(*entities)});
+        descriptors.push_back({std::wstring(name), sortedSetOf(*entities)});
     return descriptors;
 }
 

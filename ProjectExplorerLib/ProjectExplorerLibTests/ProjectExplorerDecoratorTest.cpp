@@ -10,6 +10,9 @@
 
 #include "Common/AssertionViolation.h"
 
+#include <algorithm>
+#include <string>
+
 namespace project_explorer::test
 {
 namespace
@@ -123,6 +126,35 @@ TEST_F(ProjectExplorerDecoratorTest, PreferencesReceiveTheStateOncePerChange)
     EXPECT_TRUE(preferences.written[0].at(group.getId()).expanded);
     EXPECT_FALSE(preferences.written[2].at(group.getId()).expanded);
     EXPECT_EQ(preferences.written[2].size(), 2u);
+}
+
+// Selecting may unfold a great many subgroups at once; each unfold is a change of the state, but the
+// preferences receive the state once, complete, when the selection change is done.
+TEST_F(ProjectExplorerDecoratorTest, UnfoldsThatFollowOneSelectionReachThePreferencesInOneWrite)
+{
+    aec::EntityIdSet selected{northSheet, southSheet};
+    for (int zone = 1; zone <= 12; ++zone)
+        selected.insert(project.addEntity(EntityCollection::Sheets, L"Z" + std::to_wstring(zone),
+                                          project.addTopic(L"Zone " + std::to_wstring(zone))));
+    sheets().rebuild();
+    CRecordingPreferences preferences;
+    CProjectExplorerPreferencesUpdatingDecorator updating(std::move(unfolding), preferences);
+    aec::IProjectExplorerGroup& group = named(updating.getGroups(), L"Sheets");
+
+    updating.getEntitySelection().setSelection(selected);
+
+    ASSERT_EQ(preferences.written.size(), 1u) << "one write for the group and its fourteen subgroups";
+    const aec::ProjectExplorerGroupState& state = preferences.written.back().at(group.getId());
+    EXPECT_TRUE(state.expanded);
+    ASSERT_EQ(state.subgroupExpanded.size(), 14u);
+    EXPECT_TRUE(std::ranges::all_of(state.subgroupExpanded, [](const auto& subgroup) { return subgroup.second; }));
+
+    // Afterwards a change on its own is written at once again.
+    named(group.getSubgroups(), L"North").setExpanded(false);
+    EXPECT_EQ(preferences.written.size(), 2u);
+    group.getGroupingModel().setGroupingKey(aec::PropertyAssignmentKey::noGrouping());
+    EXPECT_TRUE(preferences.written.back().at(group.getId()).subgroupExpanded.begin()->second)
+        << "the new subgroup of selected sheets is written unfolded";
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "AecModel/EntityIdHash.h"
+
 #include "aec/ChangeNotificationBatch.h"
 #include "aec/EntityCollection.h"
 #include "aec/EntityId.h"
@@ -57,7 +59,7 @@ private:
 
     void flush();
 
-    std::unordered_map<EntityId, PendingEntity> pending_;
+    std::unordered_map<EntityId, PendingEntity, CEntityIdHash> pending_;
     int depth_ = 0;
     common::CObservable<IObjectEvents> observers_;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AecModel/Entity.h"
+#include "AecModel/EntityIdHash.h"
 #include "AecModel/EntityRecord.h"
 
 #include "aec/EntityCollection.h"
@@ -59,7 +60,7 @@ private:
     const OrderList& orderOf(EntityCollection collection) const;
 
     CProject& owner_;
-    std::unordered_map<EntityId, CEntity> entities_;
+    std::unordered_map<EntityId, CEntity, CEntityIdHash> entities_;
     // Declared after the entities so that the lists let go of them before they are destroyed.
     std::array<OrderList, entityCollectionCount> order_;
 };

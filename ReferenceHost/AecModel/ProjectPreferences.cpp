@@ -3,6 +3,7 @@
 #include "AecModel/ExplorerStateJson.h"
 #include "AecModel/JsonFields.h"
 
+#include <algorithm>
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
 
@@ -25,7 +26,20 @@ std::optional<ProjectExplorerState> CProjectPreferences::getProjectExplorerState
 
 void CProjectPreferences::setProjectExplorerState(const ProjectExplorerState& state)
 {
-    explorerState_ = state;
+    // The explorer hands the whole record over at every fold, and mostly the same groups come again.
+    // Assigning group by group then reuses the nodes of the stored record, where replacing the
+    // record would allocate every subgroup's entry anew.
+    constexpr auto groupOf = &ProjectExplorerState::value_type::first;
+    const bool sameGroups =
+        explorerState_ && std::ranges::equal(*explorerState_, state, {}, groupOf, groupOf);
+    if (!sameGroups)
+    {
+        explorerState_ = state;
+        return;
+    }
+    auto stored = explorerState_->begin();
+    for (const auto& entry : state)
+        (stored++)->second = entry.second;
 }
 
 nlohmann::json CProjectPreferences::toJson() const

@@ -191,6 +191,11 @@ CPanelOwner& CExplorerSession::getPanelOwner() noexcept
     return *panelOwner_;
 }
 
+const IProjectExplorerFactory& CExplorerSession::getExplorerFactory() const noexcept
+{
+    return *explorerFactory_;
+}
+
 CProjectBinding& CExplorerSession::binding()
 {
     COMMON_PRECONDITION(binding_ != nullptr);

@@ -100,6 +100,8 @@ public:
     CExplorerPanel& getPanel() noexcept;
     CStatusService& getStatusService() noexcept;
     CPanelOwner& getPanelOwner() noexcept;
+    // The library's explorer factory, for a part of the host that makes an explorer of its own.
+    const IProjectExplorerFactory& getExplorerFactory() const noexcept;
 
 private:
     CProjectBinding& binding();

@@ -197,6 +197,8 @@ void CGui::chooseContextMenuItem(std::span<const std::size_t> path)
         item = &(*level)[index];
         level = &item->getSubItems();
     }
+    // A path is never empty here; said so that the optimiser sees it too (-Wnull-dereference).
+    COMMON_CHECK(item != nullptr);
     if (item->isSeparator())
         throw common::EException(fmt::format("Context-menu item {} is a separator.", fmt::join(path, ".")));
     if (!item->isEnabled())
