@@ -49,7 +49,7 @@ private:
     CProject& project_;
 };
 
-// A project with one step to undo and one to redo.
+// A project with one step to undo and one to redo, and an observer that fails when told to.
 class FailingObserverTest : public ::testing::Test
 {
 protected:
@@ -59,6 +59,8 @@ protected:
         rename(L"Sheet 2", "Rename to 2");
         rename(L"Sheet 3", "Rename to 3");
         project.getUndoHistory().undo();
+        before = project.canonicalDump();
+        observer = std::make_unique<CFailingObserver>(project);
     }
 
     void rename(const std::wstring& name, const std::string& step)
@@ -68,25 +70,31 @@ protected:
         transaction->commit();
     }
 
+    // A rename whose commit the observer cannot follow must leave the project and its undo steps
+    // as they were.
+    void expectFailedRename()
+    {
+        EXPECT_THROW(rename(L"Sheet 4", "Rename to 4"), common::EException);
+        EXPECT_EQ(project.canonicalDump(), before);
+        EXPECT_EQ(project.getUndoHistory().getUndoNames(), std::vector<std::string>{"Rename to 2"});
+    }
+
     CProject project;
     EntityId sheet;
+    std::string before;
+    std::unique_ptr<CFailingObserver> observer;
 };
 
 TEST_F(FailingObserverTest, ACommitThatAnObserverCannotFollowChangesNothing)
 {
-    const std::string before = project.canonicalDump();
-    CFailingObserver observer(project);
-    observer.failures = 1;
-
-    EXPECT_THROW(rename(L"Sheet 4", "Rename to 4"), common::EException);
-    EXPECT_EQ(project.canonicalDump(), before);
-    EXPECT_EQ(project.getUndoHistory().getUndoNames(), std::vector<std::string>{"Rename to 2"});
+    observer->failures = 1;
+    expectFailedRename();
     EXPECT_EQ(project.getUndoHistory().getRedoNames(), std::vector<std::string>{"Rename to 3"})
         << "the failed commit's step does not end the redo";
-    ASSERT_EQ(observer.heard.size(), 2u) << "the observer hears of the change and then of its rollback";
-    EXPECT_NE(observer.heard[0], before);
-    EXPECT_EQ(observer.heard[1], before);
-    EXPECT_EQ(observer.heardChanged[1], EntityIdSet{sheet});
+    ASSERT_EQ(observer->heard.size(), 2u) << "the observer hears of the change and then of its rollback";
+    EXPECT_NE(observer->heard[0], before);
+    EXPECT_EQ(observer->heard[1], before);
+    EXPECT_EQ(observer->heardChanged[1], EntityIdSet{sheet});
 
     rename(L"Sheet 4", "Rename to 4");
     EXPECT_EQ(project.getUndoHistory().getUndoNames(),
@@ -96,20 +104,16 @@ TEST_F(FailingObserverTest, ACommitThatAnObserverCannotFollowChangesNothing)
 
 TEST_F(FailingObserverTest, ARollbackThatAnObserverCannotFollowStillCompletes)
 {
-    const std::string before = project.canonicalDump();
-    CFailingObserver observer(project);
-    observer.failures = 2;
-
     // The commit's news fails, and so does the news of the rollback that follows.
-    EXPECT_THROW(rename(L"Sheet 4", "Rename to 4"), common::EException);
-    EXPECT_EQ(project.canonicalDump(), before);
+    observer->failures = 2;
+    expectFailedRename();
 
     {
         const std::unique_ptr<ITransaction> dropped = project.getTransactionHost().openTransaction("Dropped");
         project.renameEntity(sheet, L"Sheet 5");
         project.removeEntity(sheet);
         // Dropping the transaction rolls it back, and the observer fails to follow the rollback.
-        observer.failures = 1;
+        observer->failures = 1;
     }
     EXPECT_EQ(project.canonicalDump(), before)
         << "the destroyed transaction rolled back despite the observer";
