@@ -11,6 +11,7 @@
 #include "Support/ScratchDirectory.h"
 #include "aec/Transaction.h"
 
+#include <boost/algorithm/string/replace.hpp>
 #include <cstddef>
 #include <cstdint>
 #include <fmt/format.h>
@@ -96,11 +97,18 @@ void checkImport(std::string_view content)
     FUZZ_CHECK(property(project, *table, CTableImporter::rowsProperty) == std::to_wstring(rows));
     FUZZ_CHECK(property(project, *table, CTableImporter::columnsProperty) == std::to_wstring(columns));
 
-    // The same cells, written out the strict way, are the same table; its name is made unique.
+    // The same cells, written out the strict way, are the same table; its name is made unique. A
+    // line break inside a quoted field reads as LF, so a cell that holds a carriage return right
+    // before one (a file with CR CR LF) has no CSV form: written back, its CR LF reads as LF.
     const std::optional<EntityId> copy =
         importInTransaction(project, scratch().write("Doors.csv", asQuotedCsv(cells)));
     FUZZ_CHECK(copy.has_value());
-    FUZZ_CHECK(property(project, *copy, CTableImporter::cellsProperty) == cellsText);
+    nlohmann::json expected = cells;
+    for (nlohmann::json& row : expected)
+        for (nlohmann::json& cell : row)
+            boost::algorithm::replace_all(cell.get_ref<std::string&>(), "\r\n", "\n");
+    FUZZ_CHECK(nlohmann::json::parse(toUtf8(property(project, *copy, CTableImporter::cellsProperty))) ==
+               expected);
     FUZZ_CHECK(project.findEntity(*copy)->getName() == L"Doors (2)");
 
     CUndoHistory& history = project.getUndoHistory();
