@@ -13,6 +13,9 @@
 
 #include "Common/NameBasedUuid.h"
 
+#include <algorithm>
+#include <ranges>
+
 namespace project_explorer
 {
 
@@ -84,11 +87,21 @@ void CProjectExplorerFactory::restoreFoldState(aec::IProjectExplorerGroup& group
                                                const aec::ProjectExplorerGroupState& stored)
 {
     group.setExpanded(stored.expanded);
+
+    // A new subgroup is folded, so only the stored unfolded ones need finding. A subgroup is known in
+    // the record by a hash of its name (SHA-1), which costs more than the rest of restoring it, so
+    // the search stops once every unfolded one is found; mostly few or none are.
+    auto unfolded = std::ranges::count(stored.subgroupExpanded | std::views::values, true);
     for (aec::IProjectExplorerSubgroup& subgroup : group.getSubgroups())
     {
+        if (unfolded == 0)
+            return;
         const auto found = stored.subgroupExpanded.find(common::makeNameBasedUuid(group.getId(), subgroup.getName()));
-        if (found != stored.subgroupExpanded.end())
-            subgroup.setExpanded(found->second);
+        if (found != stored.subgroupExpanded.end() && found->second)
+        {
+            subgroup.setExpanded(true);
+            --unfolded;
+        }
     }
 }
 
