@@ -97,9 +97,11 @@ void CProjectExplorerAutoUnfoldingDecorator::unfoldHolders(WatchedGroup& watched
     for (aec::IProjectExplorerSubgroup* subgroup : holders)
     {
         // A listener of an unfold rebuilt the group, so the subgroups left may be gone; the current
-        // ones are asked again (those already unfolded stay so and say nothing).
+        // ones are asked again (those already unfolded stay so and say nothing). A candidate's
+        // address may since belong to a subgroup of that rebuild, which its own handling unfolded
+        // already if it holds any of the entities.
         if (watched.rebuilds != rebuilds)
-            return unfoldHolders(watched, entities, nullptr);
+            return unfoldHolders(watched, entities, candidates);
         unfold(watched.group, *subgroup);
     }
 }
