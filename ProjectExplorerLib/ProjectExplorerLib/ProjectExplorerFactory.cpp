@@ -14,7 +14,6 @@
 #include "Common/NameBasedUuid.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace project_explorer
 {
@@ -91,7 +90,9 @@ void CProjectExplorerFactory::restoreFoldState(aec::IProjectExplorerGroup& group
     // A new subgroup is folded, so only the stored unfolded ones need finding. A subgroup is known in
     // the record by a hash of its name (SHA-1), which costs more than the rest of restoring it, so
     // the search stops once every unfolded one is found; mostly few or none are.
-    auto unfolded = std::ranges::count(stored.subgroupExpanded | std::views::values, true);
+    // std::views::values over the map would read better, but clang 14 rejects libstdc++ 12's views.
+    auto unfolded = std::count_if(stored.subgroupExpanded.begin(), stored.subgroupExpanded.end(),
+                                  [](const auto& entry) { return entry.second; });
     for (aec::IProjectExplorerSubgroup& subgroup : group.getSubgroups())
     {
         if (unfolded == 0)
