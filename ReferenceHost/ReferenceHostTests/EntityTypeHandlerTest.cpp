@@ -59,17 +59,22 @@ TEST(EntityTypeHandlerTest, RenameRefusesBlankNamesAndNamesOfOtherEntities)
     const EntityId table = project.addEntity(EntityCollection::Tables, L"Pine");
     const std::string before = project.canonicalDump();
 
-    const auto refusal = [&](const std::wstring& name) -> std::string
+    const auto refusalOf = [](CEntityTypeHandler& handler, const EntityId& id,
+                              const std::wstring& name) -> std::string
     {
         try
         {
-            materials.rename(oak, name);
+            handler.rename(id, name);
         }
         catch (const common::EException& error)
         {
             return error.what();
         }
         return "accepted";
+    };
+    const auto refusal = [&](const std::wstring& name)
+    {
+        return refusalOf(materials, oak, name);
     };
     EXPECT_EQ(refusal(L"Beech"), "There is already a material named \"Beech\"; choose another name.");
     EXPECT_NE(refusal(L" \t").find("A material needs a name"), std::string::npos);
@@ -82,6 +87,14 @@ TEST(EntityTypeHandlerTest, RenameRefusesBlankNamesAndNamesOfOtherEntities)
     EXPECT_EQ(refusal(L"pine"), "accepted");
     EXPECT_EQ(project.findEntity(oak)->getName(), L"pine");
     EXPECT_EQ(project.findEntity(table)->getName(), L"Pine");
+
+    CEntityTypeHandler assemblies(project, EntityCollection::Assemblies);
+    const EntityId stair = project.addEntity(EntityCollection::Assemblies, L"Stair");
+    project.addEntity(EntityCollection::Assemblies, L"Ramp");
+    EXPECT_EQ(refusalOf(assemblies, stair, L"Ramp"),
+              "There is already an assembly named \"Ramp\"; choose another name.");
+    EXPECT_EQ(refusalOf(assemblies, stair, L""),
+              "An assembly needs a name; type at least one letter or digit.");
 }
 
 TEST(EntityTypeHandlerTest, EntitiesOfAnotherCollectionAreAContractViolation)
