@@ -10,7 +10,6 @@
 #include "ExplorerDesktop/ExplorerTreeView.h"
 #include "ExplorerDesktop/GroupingBar.h"
 #include "ExplorerDesktop/HostDialogs.h"
-#include "ExplorerDesktop/PropertyContext.h"
 #include "HostFrame/ExplorerPanel.h"
 #include "HostFrame/ExplorerSession.h"
 #include "HostFrame/Gui.h"
@@ -47,8 +46,7 @@ CMainWindow::CMainWindow(host::CExplorerSession& session, QWidget* parent)
       selection_(new CExplorerSelectionModel(*model_, session_.getPanel(), *runner_, this)),
       tree_(new CExplorerTreeView(*model_, *selection_, session_.getPanel())),
       groupingBar_(new CGroupingBar(session_.getGui(), *runner_)), documents_(new CDocumentArea()),
-      dialogs_(new CHostDialogs(session_.getHostServices(), *this)),
-      propertyContext_(std::make_unique<CPropertyContext>())
+      dialogs_(new CHostDialogs(session_.getHostServices(), *this))
 {
     auto* const explorerPanel = new QWidget();
     auto* const explorerLayout = new QVBoxLayout(explorerPanel);
@@ -82,7 +80,6 @@ CMainWindow::CMainWindow(host::CExplorerSession& session, QWidget* parent)
                 model::CSessionManager& sessionManager = session_.getHostServices().getSessionManager();
                 documents_->refresh(sessionManager.hasCurrentProject() ? &sessionManager.getCurrentProject()
                                                                        : nullptr);
-                installPropertyContext();
                 updateActions();
             });
 
@@ -98,7 +95,6 @@ CMainWindow::CMainWindow(host::CExplorerSession& session, QWidget* parent)
     if (const std::wstring& last = session_.getStatusService().getLastMessage(); !last.empty())
         statusBar()->showMessage(QString::fromStdWString(last));
     setProjectPath(QString());
-    installPropertyContext();
     updateActions();
 }
 
@@ -111,7 +107,6 @@ CMainWindow::~CMainWindow()
     disconnect(selection_, nullptr, this, nullptr);
     status_.disconnect();
     session_.getHostServices().getProxyAppGui().setOpenCallback(nullptr);
-    uninstallPropertyContext();
 }
 
 bool CMainWindow::openProject(const QString& path)
@@ -300,26 +295,6 @@ void CMainWindow::renameSelected()
     // panel asks this window's tree to edit the name in place.
     const EntityId entity = *selected.begin();
     runner_->run([this, &entity] { session_.getEntityController().forwardToGuiHandler(entity); });
-}
-
-void CMainWindow::installPropertyContext()
-{
-    model::CSessionManager& sessionManager = session_.getHostServices().getSessionManager();
-    if (!sessionManager.hasCurrentProject())
-        return;
-    model::CDocument& document = sessionManager.getCurrentProject().getDocument();
-    if (document.getPropertyContext() == nullptr)
-        document.setPropertyContext(propertyContext_.get());
-}
-
-void CMainWindow::uninstallPropertyContext() noexcept
-{
-    model::CSessionManager& sessionManager = session_.getHostServices().getSessionManager();
-    if (!sessionManager.hasCurrentProject())
-        return;
-    model::CDocument& document = sessionManager.getCurrentProject().getDocument();
-    if (document.getPropertyContext() == propertyContext_.get())
-        document.setPropertyContext(nullptr);
 }
 
 } // namespace aec::desktop

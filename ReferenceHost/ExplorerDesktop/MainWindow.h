@@ -21,7 +21,6 @@ class CExplorerSelectionModel;
 class CExplorerTreeView;
 class CGroupingBar;
 class CHostDialogs;
-class CPropertyContext;
 
 // The desktop program's window over an explorer session: the explorer's tree with the grouping
 // bar of the group the user works in, the opened entities beside it, the File and Edit menus, and
@@ -65,8 +64,6 @@ private:
     void openEntity(const QModelIndex& index);
     void renameSelected();
     // Gives the open project's document the window's property context, unless it has one.
-    void installPropertyContext();
-    void uninstallPropertyContext() noexcept;
 
     host::CExplorerSession& session_;
     QString projectPath_;
@@ -77,7 +74,6 @@ private:
     CGroupingBar* groupingBar_;
     CDocumentArea* documents_;
     CHostDialogs* dialogs_;
-    std::unique_ptr<CPropertyContext> propertyContext_;
     boost::signals2::scoped_connection status_;
 };
 

@@ -10,7 +10,6 @@
 #include "ExplorerShell/HostFeedback.h"
 #include "ExplorerShell/ProjectCommands.h"
 #include "ExplorerShell/SelectionCommands.h"
-#include "ExplorerShell/ShellPropertyContext.h"
 #include "ExplorerShell/TreeCommands.h"
 #include "HostFrame/ExplorerSession.h"
 
@@ -35,8 +34,7 @@ std::string oneLine(std::string message)
 } // namespace
 
 CShellCommandInterpreter::CShellCommandInterpreter(aec::host::CExplorerSession& session, std::ostream& out)
-    : session_(session), out_(out), propertyContext_(std::make_unique<CShellPropertyContext>()),
-      feedback_(std::make_unique<CHostFeedback>(session))
+    : session_(session), out_(out), feedback_(std::make_unique<CHostFeedback>(session))
 {
     treeCommands_ = std::make_unique<CTreeCommands>(session_, commands_);
     selectionCommands_ = std::make_unique<CSelectionCommands>(session_, commands_);
@@ -56,10 +54,7 @@ CShellCommandInterpreter::CShellCommandInterpreter(aec::host::CExplorerSession& 
                    }});
 }
 
-CShellCommandInterpreter::~CShellCommandInterpreter()
-{
-    uninstallPropertyContext();
-}
+CShellCommandInterpreter::~CShellCommandInterpreter() = default;
 
 bool CShellCommandInterpreter::execute(std::string_view line)
 {
@@ -100,31 +95,12 @@ void CShellCommandInterpreter::run(std::string_view line, std::ostream& out)
     const ShellCommand& command = commands_.find(words);
     if (command.needsProject && !session_.hasProject())
         throw common::EException("No project is open; open one with load FILE.");
-    installPropertyContext();
     feedback_->start();
     // What the host was asked comes first: it happened before the command's outcome.
     std::ostringstream outcome;
     command.run(words, outcome);
     feedback_->write(out);
     out << outcome.str();
-}
-
-void CShellCommandInterpreter::installPropertyContext()
-{
-    if (!session_.hasProject())
-        return;
-    model::CDocument& document = session_.getProject().getDocument();
-    if (document.getPropertyContext() == nullptr)
-        document.setPropertyContext(propertyContext_.get());
-}
-
-void CShellCommandInterpreter::uninstallPropertyContext() noexcept
-{
-    if (!session_.hasProject())
-        return;
-    model::CDocument& document = session_.getProject().getDocument();
-    if (document.getPropertyContext() == propertyContext_.get())
-        document.setPropertyContext(nullptr);
 }
 
 } // namespace aec::shell

@@ -20,7 +20,6 @@ class CGroupingCommands;
 class CHostFeedback;
 class CProjectCommands;
 class CSelectionCommands;
-class CShellPropertyContext;
 class CTreeCommands;
 
 // Runs what a user types into the terminal host against an explorer session, one line at a time,
@@ -51,12 +50,9 @@ private:
     void run(std::string_view line, std::ostream& out);
     // The document of the open project edits properties in the terminal: its context is this
     // interpreter's, installed for each project the session shows.
-    void installPropertyContext();
-    void uninstallPropertyContext() noexcept;
 
     aec::host::CExplorerSession& session_;
     std::ostream& out_;
-    std::unique_ptr<CShellPropertyContext> propertyContext_;
     std::unique_ptr<CHostFeedback> feedback_;
     CCommandTable commands_;
     std::unique_ptr<CTreeCommands> treeCommands_;

@@ -315,29 +315,5 @@ TEST_F(ShellCommandInterpreterTest, HelpQuitAndCommentsNeedNoProject)
     EXPECT_TRUE(interpreter.hasQuit());
 }
 
-TEST_F(ShellCommandInterpreterTest, LeavesNoPropertyContextBehind)
-{
-    const auto context = [this]
-    {
-        return session.getProject().getDocument().getPropertyContext();
-    };
-    {
-        std::ostringstream output;
-        CShellCommandInterpreter other(session, output);
-        ASSERT_TRUE(other.execute("dump"));
-        EXPECT_NE(context(), nullptr);
-    }
-    EXPECT_EQ(context(), nullptr) << "the document would keep the context of a gone interpreter";
-
-    run("dump");
-    const IPropertyContext* const own = context();
-    {
-        std::ostringstream output;
-        CShellCommandInterpreter other(session, output);
-        ASSERT_TRUE(other.execute("dump"));
-    }
-    EXPECT_EQ(context(), own) << "an interpreter takes away only its own context";
-}
-
 } // namespace
 } // namespace aec::shell

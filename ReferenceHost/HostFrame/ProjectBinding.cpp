@@ -1,6 +1,7 @@
 #include "HostFrame/ProjectBinding.h"
 
 #include "Common/Check.h"
+#include "HostFrame/DocumentPropertyContext.h"
 #include "HostFrame/ExplorerPanel.h"
 #include "HostFrame/GroupingButtons.h"
 #include "HostFrame/Gui.h"
@@ -63,6 +64,12 @@ void CProjectBinding::bind()
     documentShown_ = true;
     documentGui.setEntityCallback([&panel = application_.panel](const EntityId& entity)
                                   { panel.startRename(entity); });
+    model::CDocument& document = project_->getDocument();
+    if (document.getPropertyContext() == nullptr)
+    {
+        propertyContext_ = std::make_unique<CDocumentPropertyContext>();
+        document.setPropertyContext(propertyContext_.get());
+    }
 
     projectServices_ = std::make_unique<model::CProjectServices>(*project_);
     hostContext_ = std::make_unique<CHostContext>(*project_, services.getPropertyCatalog());
@@ -125,6 +132,12 @@ void CProjectBinding::tearDown() noexcept
     controller_.reset();
     hostContext_.reset();
     projectServices_.reset();
+    if (propertyContext_ != nullptr)
+    {
+        // The context goes before the project; the document must not point at it meanwhile.
+        project_->getDocument().setPropertyContext(nullptr);
+        propertyContext_.reset();
+    }
     CHostServices& services = application_.hostServices;
     if (documentShown_)
     {

@@ -19,6 +19,7 @@ class IProjectExplorerViewCreator;
 namespace aec::host
 {
 
+class CDocumentPropertyContext;
 class CExplorerPanel;
 class CGui;
 class CHostContext;
@@ -28,9 +29,9 @@ class CStatusService;
 class IServiceDecorator;
 
 // Everything of an explorer session that belongs to one open project: the project as the current
-// one, its document's user interface, its services, the host context, the entity controller, the
-// explorer's view bound to the GUI, and the root activity. Made in that order, torn down in
-// reverse, also when making fails half way.
+// one, its document's user interface and property context (unless the document came with one), its
+// services, the host context, the entity controller, the explorer's view bound to the GUI, and the
+// root activity. Made in that order, torn down in reverse, also when making fails half way.
 class CProjectBinding
 {
 public:
@@ -74,6 +75,7 @@ private:
     std::unique_ptr<model::CProject> project_;
     std::uint32_t documentKey_;
     bool documentShown_ = false;
+    std::unique_ptr<CDocumentPropertyContext> propertyContext_;
     std::unique_ptr<model::CProjectServices> projectServices_;
     std::unique_ptr<CHostContext> hostContext_;
     std::unique_ptr<IProjectExplorerEntityController> controller_;

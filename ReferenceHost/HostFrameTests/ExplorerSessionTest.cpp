@@ -1,5 +1,6 @@
 #include "HostFrame/ExplorerSession.h"
 
+#include "AecModel/Document.h"
 #include "AecModel/Project.h"
 #include "AecModel/SampleProject.h"
 #include "Common/AssertionViolation.h"
@@ -14,6 +15,7 @@
 #include "aec/ProjectExplorerGroupInfo.h"
 #include "aec/ProjectExplorerGroupingModel.h"
 #include "aec/ProjectExplorerSubgroup.h"
+#include "aec/PropertyContext.h"
 #include "aec/TextIds.h"
 
 #include <algorithm>
@@ -185,6 +187,31 @@ TEST_F(ExplorerSessionTest, LoadingReplacesTheProjectAndRestoresItsState)
     EXPECT_FALSE(session.getGui().hasCommandHandler(commands::deleteSelection));
     EXPECT_FALSE(session.getGui().hasDocumentActivatedRegistration());
     EXPECT_THROW(session.getExplorer(), common::EPreconditionViolation);
+}
+
+TEST_F(ExplorerSessionTest, EditPropertiesReachesTheEditorThroughTheDocumentsContext)
+{
+    // Assemblies are among the entities whose properties the explorer lets the host edit.
+    const EntityId assembly = session.getProject().getEntities(EntityCollection::Assemblies).front();
+    IPropertyContext* const context = session.getProject().getDocument().getPropertyContext();
+    ASSERT_NE(context, nullptr) << "without a context the explorer keeps edit properties from the host";
+    session.getPanel().changeSelection({assembly}, {});
+    session.getGui().runCommand(commands::editProperties);
+    const auto& request = session.getHostServices().getPropertyEditor().getLastRequest();
+    ASSERT_TRUE(request.has_value());
+    EXPECT_EQ(request->owner, context->getOwner());
+    EXPECT_EQ(request->entities, EntityIdSet{assembly});
+
+    // A document that comes with a context of its own keeps it.
+    struct COwnContext final : IPropertyContext, IPropertyContextOwner
+    {
+        IPropertyContextOwner* getOwner() const override { return const_cast<COwnContext*>(this); }
+    } own;
+    auto project = model::buildSampleProject();
+    project->getDocument().setPropertyContext(&own);
+    session.open(std::move(project));
+    EXPECT_EQ(session.getProject().getDocument().getPropertyContext(), &own);
+    session.close();
 }
 
 } // namespace
