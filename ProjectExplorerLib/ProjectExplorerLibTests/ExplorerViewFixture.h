@@ -1,13 +1,13 @@
 #pragma once
 
 #include "RecordingEntityController.h"
-#include "RecordingGui.h"
 #include "RecordingPanel.h"
 #include "ViewHostServices.h"
 
 #include "AecModel/AttributeValueFormatter.h"
 #include "AecModel/Project.h"
 #include "AecModel/SessionManager.h"
+#include "HostFrame/Gui.h"
 
 #include "aec/NonDrawingView.h"
 #include "aec/ProjectExplorerEntityProvider.h"
@@ -31,7 +31,7 @@ namespace project_explorer::test
 {
 
 // Views made through the library's entry points over the reference host's sample project, with
-// the real explorer, in a recording panel, bound to a recording GUI.
+// the real explorer, in a recording panel, bound to the reference host's GUI.
 class ExplorerViewFixture : public ::testing::Test
 {
 protected:
@@ -65,7 +65,7 @@ protected:
     MapClipboard clipboard;
     ListenerRegistry registry{clipboard};
     RecordingEntityController entityController;
-    RecordingGui gui;
+    aec::host::CGui gui;
 };
 
 } // namespace project_explorer::test
