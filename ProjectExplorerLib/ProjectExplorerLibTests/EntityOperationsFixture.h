@@ -1,10 +1,10 @@
 #pragma once
 
 #include "FailingServices.h"
-#include "AecAppTests/RecordingGui.h"
 
 #include "AecModel/Project.h"
 #include "AecModel/ProjectServices.h"
+#include "HostFrame/Gui.h"
 #include "HostServices/HostServices.h"
 
 #include "aec/ProjectExplorerEntityController.h"
@@ -41,7 +41,7 @@ protected:
     FailingSerializer serializer{host.getPasteDataSerializer()};
     FailingClipboard clipboard{host.getClipboard()};
     TestPropertyContext propertyContext;
-    aecapp_tests::RecordingGui gui;
+    aec::host::CGui gui;
 
     aec::TopicId topicA;
     aec::TopicId topicB;
