@@ -2,12 +2,15 @@
 
 #include "RecordingEntityController.h"
 #include "RecordingPanel.h"
-#include "ViewHostServices.h"
 
 #include "AecModel/AttributeValueFormatter.h"
 #include "AecModel/Project.h"
+#include "AecModel/PropertyCatalog.h"
 #include "AecModel/SessionManager.h"
 #include "HostFrame/Gui.h"
+#include "HostFrame/HostContext.h"
+#include "HostServices/Clipboard.h"
+#include "HostServices/Translation.h"
 
 #include "aec/NonDrawingView.h"
 #include "aec/ProjectExplorerEntityProvider.h"
@@ -40,7 +43,7 @@ protected:
 
     // A new view over a new explorer, shown in `panel`.
     std::unique_ptr<aec::INonDrawingView> createView();
-    // A view bound to `gui`, following the clipboard in `registry`.
+    // A view bound to `gui`, following `clipboard`.
     std::unique_ptr<aec::INonDrawingView> createBoundView();
     // The explorer of the last view made, as the panel shows it.
     aec::IProjectExplorer& explorer();
@@ -59,11 +62,11 @@ protected:
     RecordingPanel panel;
     RecordingPanelProvider panelProvider;
     std::unique_ptr<aec::IProjectExplorerViewCreator> creator;
-    ProjectHostContext hostContext;
+    aec::model::CPropertyCatalog propertyCatalog;
+    aec::host::CHostContext hostContext;
     aec::IPanelOwner panelOwner;
-    NumberedTranslation translation;
-    MapClipboard clipboard;
-    ListenerRegistry registry{clipboard};
+    aec::host::CTranslation translation;
+    aec::host::CClipboard clipboard;
     RecordingEntityController entityController;
     aec::host::CGui gui;
 };

@@ -86,7 +86,7 @@ TEST_F(ProjectExplorerViewTest, CreationFailsWithoutPanelOrExplorer)
 TEST_F(ProjectExplorerViewTest, TakesTheGuiOnceNeverNullAndMakesActivitiesOnlyAfterIt)
 {
     const auto view = createView();
-    view->setClipboardListenerRegistry(&registry);
+    view->setClipboardListenerRegistry(&clipboard);
 
     const std::string activityWithoutGui =
         violationSite<common::EPreconditionViolation>([&] { view->createActivity(); });
@@ -143,7 +143,7 @@ TEST_F(ProjectExplorerViewTest, GroupsWithoutButtonsStillGetAContextMenu)
     const auto view = createViewCreator(factory, panelProvider, *eventHandlerFactory)
                           ->createView(panelOwner, hostContext, project->getPreferences(), entityController,
                                        translation, sessionManager, project->getObjectEvents(), clipboard);
-    view->setClipboardListenerRegistry(&registry);
+    view->setClipboardListenerRegistry(&clipboard);
     view->setGui(&gui);
 
     EXPECT_EQ(boundButtons(gui), 0);
