@@ -254,26 +254,20 @@ private Q_SLOTS:
         QVERIFY2(gui.canRunCommand(commands::paste), "the copy item put the door style on the clipboard");
     }
 
-    void aReopenedProjectShowsTheFoldsAndGroupingItWasSavedWith()
+    // What a file brings back is checked in the explorer's and the shell's tests; the model must
+    // follow the project that the load puts in place of the old one, and the close.
+    void theModelFollowsAReopenedAndAClosedProject()
     {
         model_->setExpanded(model_->index(0, 0), true);
         chooseButton(&host::GroupingButtonIds::groupCriterion, topicCriterion());
-        chooseButton(&host::GroupingButtonIds::sortOrder, L"2");
-        model_->setExpanded(subgroupIndex(0, L"Structure"), true);
-        const QStringList subgroupsBefore = subgroupNames(*model_, 0);
 
         QTemporaryDir directory;
         QVERIFY(directory.isValid());
         const std::filesystem::path file = directory.filePath("project.json").toStdWString();
         session_->save(file);
         session_->load(file);
-
         VERIFY_MODEL_MIRRORS_EXPLORER();
         QVERIFY(model_->isExpanded(model_->index(0, 0)));
-        QCOMPARE(subgroupNames(*model_, 0), subgroupsBefore);
-        QVERIFY(model_->isExpanded(subgroupIndex(0, L"Structure")));
-        QVERIFY(!model_->isExpanded(model_->index(1, 0)));
-        QVERIFY2(undoNames().empty(), "a loaded project starts without history");
 
         session_->close();
         QCOMPARE(model_->rowCount(), 0);
