@@ -2,21 +2,12 @@
 #include "ViolationSite.h"
 
 #include "ProjectExplorerLib/ProjectExplorerCopierToClipboard.h"
-#include "ProjectExplorerLib/ProjectExplorerExports.h"
 
 #include "AecModel/EditingService.h"
 
 #include "aec/ClipboardFormats.h"
 #include "aec/EntityTypes.h"
 #include "aec/ObjectEvents.h"
-#include "aec/ProjectExplorer.h"
-#include "aec/ProjectExplorerEntityProvider.h"
-#include "aec/ProjectExplorerFactory.h"
-#include "aec/ProjectExplorerGroup.h"
-#include "aec/ProjectExplorerGroupMaker.h"
-#include "aec/ProjectExplorerGroupingModel.h"
-#include "aec/ProjectExplorerGroupingModelFactory.h"
-#include "aec/ProjectExplorerSubgroup.h"
 #include "aec/TextIds.h"
 
 #include "Common/AssertionViolation.h"
@@ -24,7 +15,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <map>
 
 namespace project_explorer::test
 {
@@ -144,26 +134,20 @@ TEST_F(EntityControllerTest, CutRemovesTheEntitiesInOneUndoStepAndTheyCanBePaste
     EXPECT_EQ(project.getEntities(aec::EntityCollection::DoorStyles).size(), 1u);
 }
 
-// Counts the project's object events and, given an explorer, rebuilds every group on each, as the
-// explorer's panel does.
-class RegroupingPanel : public aec::IObjectEvents
+// Counts the project's object events: a panel rebuilds its groups on each one.
+class EventCounter : public aec::IObjectEvents
 {
 public:
-    RegroupingPanel(aec::model::CProject& project, aec::IProjectExplorer* explorer)
-        : project_(project), explorer_(explorer)
+    explicit EventCounter(aec::model::CProject& project) : project_(project)
     {
         project_.getObjectEvents().addObserver(*this);
     }
-    ~RegroupingPanel() override { project_.getObjectEvents().removeObserver(*this); }
+    ~EventCounter() override { project_.getObjectEvents().removeObserver(*this); }
 
     void onProjectOpened() override {}
-    void onObjectsChanged(std::uint32_t, std::uint32_t, const aec::EntityIdSet&,
-                          const aec::EntityIdSet&) override
+    void onObjectsChanged(std::uint32_t, std::uint32_t, const aec::EntityIdSet&, const aec::EntityIdSet&) override
     {
         ++events;
-        if (explorer_ != nullptr)
-            for (aec::IProjectExplorerGroup& group : explorer_->getGroups())
-                group.rebuild();
     }
     void onProjectClosing() override {}
 
@@ -171,35 +155,18 @@ public:
 
 private:
     aec::model::CProject& project_;
-    aec::IProjectExplorer* explorer_;
 };
 
-std::map<std::wstring, aec::EntityIdSet> subgroupsOf(const aec::IProjectExplorerGroup& group)
+// How the tree regroups on the event is the panel's part, tested with it.
+TEST_F(EntityControllerTest, ChangeTopicIsOneStepWithOneNotification)
 {
-    std::map<std::wstring, aec::EntityIdSet> subgroups;
-    for (const aec::IProjectExplorerSubgroup& subgroup : group.getSubgroups())
-        subgroups[subgroup.getName()] =
-            aec::EntityIdSet(subgroup.getEntities().begin(), subgroup.getEntities().end());
-    return subgroups;
-}
+    EventCounter counter(project);
+    controller->changeTopic({sheet1, table}, topicB);
 
-TEST_F(EntityControllerTest, ChangeTopicRegroupsTheEntitiesAfterOneNotification)
-{
-    const auto modelFactory = createGroupingModelFactory();
-    const auto groupMaker = createGroupMaker(host.getAttributeValueFormatter(), host.getSessionManager());
-    const auto entityProvider = createProjectExplorerEntityProvider(host.getSessionManager());
-    const auto explorerFactory = createProjectExplorerFactory(*modelFactory, *groupMaker, *entityProvider);
-    const auto explorer =
-        explorerFactory->createProjectExplorer(project.getPreferences(), project, host.getPropertyCatalog());
-    aec::IProjectExplorerGroup& sheets = *explorer->getGroups().begin();
-    sheets.getGroupingModel().setGroupingKey(aec::PropertyAssignmentKey::topic());
-    RegroupingPanel panel(project, explorer.get());
-
-    controller->changeTopic({sheet1}, topicB);
-
-    EXPECT_EQ(panel.events, 1);
-    EXPECT_EQ(subgroupsOf(sheets),
-              (std::map<std::wstring, aec::EntityIdSet>{{L"Alpha", {sheet2}}, {L"Beta", {sheet1}}}));
+    EXPECT_EQ(counter.events, 1);
+    EXPECT_EQ(project.findEntity(sheet1)->getTopic(), topicB);
+    EXPECT_EQ(project.findEntity(table)->getTopic(), topicB);
+    EXPECT_EQ(project.findEntity(sheet2)->getTopic(), topicA);
     EXPECT_EQ(undoNames(), std::vector<std::string>{"Change entities topic"});
 }
 
@@ -283,7 +250,7 @@ TEST_F(EntityControllerTest, AFailingServiceLeavesProjectAndHistoryAsTheyWere)
     host.getDialogService().setDefaultAnswer(aec::DialogAnswer::Yes);
     controller->copy({sheet1});
     controller->renameEntity(table, L"Door list");
-    RegroupingPanel events(project, nullptr);
+    EventCounter events(project);
     const std::string dump = project.canonicalDump();
     const std::vector<std::string> history = undoNames();
     const auto expectUnchangedAfter = [&](const auto& action)
