@@ -20,7 +20,8 @@ ExplorerViewFixture::ExplorerViewFixture()
       entityProvider(createProjectExplorerEntityProvider(sessionManager)),
       explorerFactory(createProjectExplorerFactory(*groupingModelFactory, *groupMaker, *entityProvider)),
       eventHandlerFactory(createProjectExplorerGuiEventHandlerFactory()),
-      creator(createViewCreator(*explorerFactory, panelProvider, *eventHandlerFactory)), hostContext(*project, propertyCatalog)
+      creator(createViewCreator(*explorerFactory, panelProvider, *eventHandlerFactory)),
+      hostContext(*project, propertyCatalog)
 {
     sessionManager.setCurrentProject(project.get());
     panelProvider.panel = &panel;

@@ -15,10 +15,14 @@ namespace project_explorer::test
 class ObservedSerializer final : public aec::serialization::IProjectEntityPasteDataSessionSerializer
 {
 public:
-    explicit ObservedSerializer(IProjectEntityPasteDataSessionSerializer& serializer) : serializer_(serializer)
+    explicit ObservedSerializer(IProjectEntityPasteDataSessionSerializer& serializer)
+        : serializer_(serializer)
     {
     }
-    std::wstring serialize(const aec::IProjectEntityCopyData& data) override { return serializer_.serialize(data); }
+    std::wstring serialize(const aec::IProjectEntityCopyData& data) override
+    {
+        return serializer_.serialize(data);
+    }
     std::unique_ptr<aec::IProjectEntityPasteData> deserialize(const std::wstring& text,
                                                               const aec::PasteContext& context) override
     {

@@ -145,7 +145,8 @@ public:
     ~EventCounter() override { project_.getObjectEvents().removeObserver(*this); }
 
     void onProjectOpened() override {}
-    void onObjectsChanged(std::uint32_t, std::uint32_t, const aec::EntityIdSet&, const aec::EntityIdSet&) override
+    void onObjectsChanged(std::uint32_t, std::uint32_t, const aec::EntityIdSet&,
+                          const aec::EntityIdSet&) override
     {
         ++events;
     }
@@ -273,9 +274,10 @@ TEST_F(EntityControllerTest, ContractBreachesNameTheirSites)
         [this]
         {
             factory->createController(services.getClassifier(), services.getEntitySource(),
-                                      services.getCopyDataBuilder(), services.getTableHandler(), services.getSheetHandler(),
-                                      services.getAssemblyHandler(), services.getMaterialHandler(),
-                                      services.getOperationGuardSource(), services.getPasteHandler());
+                                      services.getCopyDataBuilder(), services.getTableHandler(),
+                                      services.getSheetHandler(), services.getAssemblyHandler(),
+                                      services.getMaterialHandler(), services.getOperationGuardSource(),
+                                      services.getPasteHandler());
         });
     EXPECT_EQ(siteFile(swappedSite), controllerFile);
 

@@ -57,7 +57,8 @@ protected:
         for (const State& state : activeStates)
         {
             const bool expected = state.value && (active || !state.claimed || state.command != 83);
-            EXPECT_EQ(state.claimed ? gui.isCommandClaimed(state.command) : gui.isCommandAvailable(state.command),
+            EXPECT_EQ(state.claimed ? gui.isCommandClaimed(state.command)
+                                    : gui.isCommandAvailable(state.command),
                       expected)
                 << state.command;
         }
