@@ -2,9 +2,9 @@
 
 #include "AecApp/SeparatorMenuItemProvider.h"
 #include "Common/AssertionViolation.h"
+#include "CommonTests/ViolationSite.h"
 #include "FixedMenuItemProvider.h"
 #include "TableTranslation.h"
-#include "ViolationMessage.h"
 
 namespace aecapp_tests
 {
@@ -31,11 +31,11 @@ TEST(CompositeMenuItemProviderTest, ConcatenatesPartsAndDropsOnlyOneTrailingSepa
     EXPECT_EQ(menuOf({fixedItems({L"Open"}), fixedItems({L"-", L"-"}), fixedItems({L"Cut"})}),
               (Texts{L"Open", L"-", L"-", L"Cut"}));
 
-    const auto message = violationMessage<common::EPreconditionViolation>(
+    const auto message = common::test::violationSite<common::EPreconditionViolation>(
         [] {
             menuOf({fixedItems({}), nullptr});
         });
-    EXPECT_TRUE(isSiteInFile(message, "AecApp/AecApp/CompositeMenuItemProvider.cpp")) << message;
+    EXPECT_EQ(common::test::siteFile(message), "AecApp/AecApp/CompositeMenuItemProvider.cpp");
 }
 
 TEST(SeparatorMenuItemProviderTest, YieldsOneBareSeparator)

@@ -1,10 +1,10 @@
 #include "AecApp/ContextMenuProvider.h"
 
 #include "Common/AssertionViolation.h"
+#include "CommonTests/ViolationSite.h"
 #include "FixedMenuItemProvider.h"
 #include "RecordingGui.h"
 #include "TableTranslation.h"
-#include "ViolationMessage.h"
 
 namespace aecapp_tests
 {
@@ -78,9 +78,9 @@ TEST_F(ContextMenuProviderTest, ShowsWithTheLatestResolverOnlyAndNothingWithout)
     provider.showMenu({});
     EXPECT_EQ(describe(gui.shownMenus.at(0).first), Texts{L"Paste"});
 
-    const auto message = violationMessage<common::EPreconditionViolation>(
+    const auto message = common::test::violationSite<common::EPreconditionViolation>(
         [this] { aec::CContextMenuProvider withoutGui(nullptr, translation); });
-    EXPECT_TRUE(isSiteInFile(message, "AecApp/AecApp/ContextMenuProvider.cpp")) << message;
+    EXPECT_EQ(common::test::siteFile(message), "AecApp/AecApp/ContextMenuProvider.cpp");
 }
 
 } // namespace

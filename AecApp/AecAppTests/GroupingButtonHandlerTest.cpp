@@ -1,10 +1,10 @@
 #include "AecApp/GroupingButtonHandler.h"
 
 #include "Common/AssertionViolation.h"
+#include "CommonTests/ViolationSite.h"
 #include "RecordingGui.h"
 #include "TableTranslation.h"
 #include "TestGroupingModel.h"
-#include "ViolationMessage.h"
 
 #include <memory>
 
@@ -12,6 +12,9 @@ namespace aecapp_tests
 {
 namespace
 {
+
+using common::test::siteFile;
+using common::test::violationSite;
 
 constexpr std::uint32_t panel = 40;
 constexpr std::uint32_t criterionButton = 41;
@@ -81,13 +84,13 @@ TEST_F(GroupingButtonHandlerTest, SortOrderTakesOnlyOneOrTwo)
     EXPECT_EQ((gui.buttonValues[{panel, sortButton}]), L"1");
 
     choose(sortButton, L"2");
-    const auto rejected = violationMessage<common::EPreconditionViolation>([&] { choose(sortButton, L"3"); });
-    EXPECT_TRUE(isSiteInFile(rejected, handlerFile)) << rejected;
+    const auto rejected = violationSite<common::EPreconditionViolation>([&] { choose(sortButton, L"3"); });
+    EXPECT_EQ(siteFile(rejected), handlerFile);
     EXPECT_EQ(model.getSortOrder(), 2);
     EXPECT_EQ((gui.buttonValues[{panel, sortButton}]), L"2");
 
-    const auto nullGui = violationMessage<common::EPreconditionViolation>([&] { makeHandler(nullptr); });
-    EXPECT_TRUE(isSiteInFile(nullGui, handlerFile)) << nullGui;
+    const auto nullGui = violationSite<common::EPreconditionViolation>([&] { makeHandler(nullptr); });
+    EXPECT_EQ(siteFile(nullGui), handlerFile);
     EXPECT_NE(rejected, nullGui);
 }
 

@@ -1,5 +1,6 @@
 #include "Common/AssertionViolation.h"
 #include "Common/UUID.h"
+#include "CommonTests/ViolationSite.h"
 
 #include <gtest/gtest.h>
 
@@ -14,6 +15,8 @@ namespace
 {
 
 using common::UUID;
+using common::test::siteFile;
+using common::test::violationSite;
 
 const std::string sampleText = "c5db39aa-0973-4262-884a-61494f79c71b";
 
@@ -61,20 +64,6 @@ TEST(UUIDTest, TextRoundTripsInBothWidthsCasesAndWithBraces)
     EXPECT_EQ(UUID::parse(widen(allDigits)).toWString(), widen(allDigits));
 }
 
-template <class Text>
-std::string parseViolation(const Text& text)
-{
-    try
-    {
-        UUID::parse(text);
-    }
-    catch (const common::EPreconditionViolation& violation)
-    {
-        return violation.what();
-    }
-    return "no violation";
-}
-
 TEST(UUIDTest, TextThatIsNotAUuidIsRejected)
 {
     std::string withNul = sampleText;
@@ -91,11 +80,11 @@ TEST(UUIDTest, TextThatIsNotAUuidIsRejected)
         EXPECT_THROW(UUID::parse(widen(text)), common::EPreconditionViolation) << text;
     }
 
-    const std::string narrowSite = parseViolation(std::string("x"));
-    const std::string wideSite = parseViolation(std::wstring(L"x"));
-    const std::string prefix = "Assertion violation: Common/Common/UUID.cpp(";
-    EXPECT_EQ(narrowSite.rfind(prefix, 0), 0u) << narrowSite;
-    EXPECT_EQ(wideSite.rfind(prefix, 0), 0u) << wideSite;
+    using Violation = common::EPreconditionViolation;
+    const std::string narrowSite = violationSite<Violation>([] { UUID::parse(std::string("x")); });
+    const std::string wideSite = violationSite<Violation>([] { UUID::parse(std::wstring(L"x")); });
+    EXPECT_EQ(siteFile(narrowSite), "Common/Common/UUID.cpp");
+    EXPECT_EQ(siteFile(wideSite), "Common/Common/UUID.cpp");
     EXPECT_NE(narrowSite, wideSite);
 }
 

@@ -24,9 +24,9 @@ EntityOperationsFixture::EntityOperationsFixture()
         host.getImportFileDialog(), host.getPropertyEditor(), host.getDialogService(),
         host.getTableImporter(), serializer);
     controller = factory->createController(
-        services.getClassifier(), services.getEntitySource(), services.getCopyDataBuilder(), sheetHandler,
-        services.getTableHandler(), services.getAssemblyHandler(), services.getMaterialHandler(),
-        services.getOperationGuardSource(), services.getPasteHandler());
+        services.getClassifier(), services.getEntitySource(), services.getCopyDataBuilder(),
+        services.getSheetHandler(), services.getTableHandler(), services.getAssemblyHandler(),
+        services.getMaterialHandler(), services.getOperationGuardSource(), services.getPasteHandler());
 }
 
 EntityOperationsFixture::~EntityOperationsFixture()

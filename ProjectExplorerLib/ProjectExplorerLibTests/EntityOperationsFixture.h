@@ -1,10 +1,12 @@
 #pragma once
 
-#include "FailingServices.h"
-#include "AecAppTests/RecordingGui.h"
+#include "ObservedSerializer.h"
+#include "TestPropertyContext.h"
 
 #include "AecModel/Project.h"
 #include "AecModel/ProjectServices.h"
+#include "HostFrame/Gui.h"
+#include "HostServices/Clipboard.h"
 #include "HostServices/HostServices.h"
 
 #include "aec/ProjectExplorerEntityController.h"
@@ -20,7 +22,7 @@ namespace project_explorer::test
 
 // A project of the reference host with two topics and entities of most collections, shown in a
 // document, the host's services around it, and an entity controller made through the library's
-// entry point. The sheet handler, the paste-data serializer and the clipboard can be made to fail.
+// entry point. How it fares when a host service fails is the fault-injection tests' part.
 class EntityOperationsFixture : public ::testing::Test
 {
 protected:
@@ -37,11 +39,10 @@ protected:
     aec::host::CHostServices host;
     aec::model::CProject project;
     aec::model::CProjectServices services{project};
-    FailingTypeHandler sheetHandler{services.getSheetHandler()};
-    FailingSerializer serializer{host.getPasteDataSerializer()};
-    FailingClipboard clipboard{host.getClipboard()};
+    ObservedSerializer serializer{host.getPasteDataSerializer()};
+    aec::host::CClipboard& clipboard = host.getClipboard();
     TestPropertyContext propertyContext;
-    aecapp_tests::RecordingGui gui;
+    aec::host::CGui gui;
 
     aec::TopicId topicA;
     aec::TopicId topicB;

@@ -20,7 +20,8 @@ ExplorerViewFixture::ExplorerViewFixture()
       entityProvider(createProjectExplorerEntityProvider(sessionManager)),
       explorerFactory(createProjectExplorerFactory(*groupingModelFactory, *groupMaker, *entityProvider)),
       eventHandlerFactory(createProjectExplorerGuiEventHandlerFactory()),
-      creator(createViewCreator(*explorerFactory, panelProvider, *eventHandlerFactory)), hostContext(*project)
+      creator(createViewCreator(*explorerFactory, panelProvider, *eventHandlerFactory)),
+      hostContext(*project, propertyCatalog)
 {
     sessionManager.setCurrentProject(project.get());
     panelProvider.panel = &panel;
@@ -40,7 +41,7 @@ std::unique_ptr<aec::INonDrawingView> ExplorerViewFixture::createView()
 std::unique_ptr<aec::INonDrawingView> ExplorerViewFixture::createBoundView()
 {
     auto view = createView();
-    view->setClipboardListenerRegistry(&registry);
+    view->setClipboardListenerRegistry(&clipboard);
     view->setGui(&gui);
     return view;
 }

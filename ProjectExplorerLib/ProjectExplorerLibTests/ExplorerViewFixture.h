@@ -1,13 +1,16 @@
 #pragma once
 
 #include "RecordingEntityController.h"
-#include "RecordingGui.h"
 #include "RecordingPanel.h"
-#include "ViewHostServices.h"
 
 #include "AecModel/AttributeValueFormatter.h"
 #include "AecModel/Project.h"
+#include "AecModel/PropertyCatalog.h"
 #include "AecModel/SessionManager.h"
+#include "HostFrame/Gui.h"
+#include "HostFrame/HostContext.h"
+#include "HostServices/Clipboard.h"
+#include "HostServices/Translation.h"
 
 #include "aec/NonDrawingView.h"
 #include "aec/ProjectExplorerEntityProvider.h"
@@ -31,7 +34,7 @@ namespace project_explorer::test
 {
 
 // Views made through the library's entry points over the reference host's sample project, with
-// the real explorer, in a recording panel, bound to a recording GUI.
+// the real explorer, in a recording panel, bound to the reference host's GUI.
 class ExplorerViewFixture : public ::testing::Test
 {
 protected:
@@ -40,7 +43,7 @@ protected:
 
     // A new view over a new explorer, shown in `panel`.
     std::unique_ptr<aec::INonDrawingView> createView();
-    // A view bound to `gui`, following the clipboard in `registry`.
+    // A view bound to `gui`, following `clipboard`.
     std::unique_ptr<aec::INonDrawingView> createBoundView();
     // The explorer of the last view made, as the panel shows it.
     aec::IProjectExplorer& explorer();
@@ -59,13 +62,13 @@ protected:
     RecordingPanel panel;
     RecordingPanelProvider panelProvider;
     std::unique_ptr<aec::IProjectExplorerViewCreator> creator;
-    ProjectHostContext hostContext;
+    aec::model::CPropertyCatalog propertyCatalog;
+    aec::host::CHostContext hostContext;
     aec::IPanelOwner panelOwner;
-    NumberedTranslation translation;
-    MapClipboard clipboard;
-    ListenerRegistry registry{clipboard};
+    aec::host::CTranslation translation;
+    aec::host::CClipboard clipboard;
     RecordingEntityController entityController;
-    RecordingGui gui;
+    aec::host::CGui gui;
 };
 
 } // namespace project_explorer::test

@@ -3,10 +3,8 @@
 #include "ProjectExplorerLib/ProjectExplorerExports.h"
 #include "ProjectExplorerLib/ProjectExplorerPreferencesUpdatingDecorator.h"
 
-#include "AecModel/SampleProject.h"
 
 #include "aec/ProjectExplorerEntitySelection.h"
-#include "aec/ProjectExplorerStateMonitor.h"
 
 #include "Common/NameBasedUuid.h"
 #include "Common/SequentialUuidProvider.h"
@@ -102,35 +100,6 @@ TEST_F(ProjectExplorerFactoryTest, RestoresStoredStateAndSkipsWhatNoLongerApplie
     sessions.setCurrentProject(&bare);
     const auto bareExplorer = explorerFactory.createProjectExplorer(project.getPreferences(), bare, catalog);
     EXPECT_EQ(subgroupNames(named(bareExplorer->getGroups(), L"Sheets")), std::vector<std::wstring>{L""});
-}
-
-// The sample project through the entry points only, as a host drives it.
-TEST(ProjectExplorerEntryPointTest, SecondExplorerOpensAsTheFirstWasLeft)
-{
-    const std::unique_ptr<aec::model::CProject> project = aec::model::buildSampleProject();
-    aec::model::CSessionManager sessions;
-    sessions.setCurrentProject(project.get());
-    const aec::model::CAttributeValueFormatter formatter(sessions);
-    const aec::model::CPropertyCatalog catalog;
-    const auto groupingModels = createGroupingModelFactory();
-    const auto groupMaker = createGroupMaker(formatter, sessions);
-    const auto entityProvider = createProjectExplorerEntityProvider(sessions);
-    const auto factory = createProjectExplorerFactory(*groupingModels, *groupMaker, *entityProvider);
-
-    const auto first = factory->createProjectExplorer(project->getPreferences(), *project, catalog);
-    aec::IProjectExplorerGroup& sheets = *first->getGroups().begin();
-    sheets.setExpanded(true);
-    sheets.getGroupingModel().setGroupingKey(PropertyAssignmentKey::topic());
-    ASSERT_GE(std::distance(sheets.getSubgroups().begin(), sheets.getSubgroups().end()), 2);
-    aec::IProjectExplorerSubgroup& unfolded = *std::next(sheets.getSubgroups().begin());
-    unfolded.setExpanded(true);
-
-    const auto second = factory->createProjectExplorer(project->getPreferences(), *project, catalog);
-
-    EXPECT_EQ(createProjectExplorerStateMonitor(*second)->getGroupStates(), createProjectExplorerStateMonitor(*first)->getGroupStates());
-    const aec::IProjectExplorerSubgroup& reopened = *std::next((*second->getGroups().begin()).getSubgroups().begin());
-    EXPECT_EQ(reopened.getName(), unfolded.getName());
-    EXPECT_TRUE(reopened.isExpanded());
 }
 
 TEST(ProjectExplorerEntryPointTest, LaterUuidProviderReplacesAndReleasesTheEarlierOne)

@@ -21,14 +21,23 @@ namespace
 
 const std::string activityFile = "ProjectExplorerLib/ProjectExplorerLib/ProjectExplorerRootActivity.cpp";
 
-using State = RecordingGui::CommandState;
+struct State
+{
+    bool claimed; // the second boolean state, else the first
+    int command;
+    bool value;
+};
 
-// The states of the host's commands while the explorer is active, in the order they are set.
+// The states of the host's commands while the explorer is active.
 const std::vector<State> activeStates{
     {true, 809, true},  {false, 79, false}, {false, 78, false}, {false, 69, false}, {false, 70, false},
     {false, 73, false}, {false, 74, false}, {false, 76, true},  {false, 75, true},  {false, 86, true},
     {true, 487, false}, {true, 83, true},   {true, 84, true},   {false, 87, false},
 };
+
+// The commands bound while the explorer is active, and those bound for the activity's whole life.
+const std::vector<int> activeCommands{86, 12, 11, 22};
+const std::vector<int> lifelongCommands{81, 82, 85};
 
 class ProjectExplorerRootActivityTest : public ExplorerViewFixture
 {
@@ -42,6 +51,32 @@ protected:
     }
     const aec::EntityIdSet& selection() { return explorer().getEntitySelection().getSelection(); }
     aec::EntityIdList selectedList() { return {selection().begin(), selection().end()}; }
+    // Deactivation gives back the claim of command 83 and leaves every other state as it was.
+    void expectStates(bool active)
+    {
+        for (const State& state : activeStates)
+        {
+            const bool expected = state.value && (active || !state.claimed || state.command != 83);
+            EXPECT_EQ(state.claimed ? gui.isCommandClaimed(state.command)
+                                    : gui.isCommandAvailable(state.command),
+                      expected)
+                << state.command;
+        }
+    }
+    // Whether paste follows the clipboard: the clipboard tells only its registered listeners, and
+    // refuses a second registration of one.
+    bool followsClipboard()
+    {
+        clipboard.clear();
+        const bool disabledWhenEmpty = !gui.isCommandEnabled(aec::commands::paste);
+        clipboard.setData(aec::clipboardFormatProjectEntities, L"entities");
+        return disabledWhenEmpty && gui.isCommandEnabled(aec::commands::paste);
+    }
+    void expectHandlers(const std::vector<int>& commands, bool bound)
+    {
+        for (const int command : commands)
+            EXPECT_EQ(gui.hasCommandHandler(command), bound) << command;
+    }
 
     std::unique_ptr<aec::INonDrawingView> view = createBoundView();
 };
@@ -51,50 +86,49 @@ TEST_F(ProjectExplorerRootActivityTest, ActivatesOnceAndDeactivationReleasesWhat
     clipboard.setData(aec::clipboardFormatProjectEntities, L"entities");
     auto activity = view->createActivity();
 
-    for (const int command : {86, 12, 11, 22, 81, 82, 85})
-        EXPECT_TRUE(gui.hasHandler(command)) << command;
-    EXPECT_EQ(gui.commandStates, activeStates);
-    EXPECT_TRUE(gui.contextMenuHandler);
-    EXPECT_EQ(registry.listeners.size(), 1u);
+    // The GUI refuses a second binding or a release of what is not bound, so activating or
+    // deactivating twice would throw here.
+    expectHandlers(activeCommands, true);
+    expectHandlers(lifelongCommands, true);
+    expectStates(true);
+    EXPECT_TRUE(gui.hasContextMenuHandler());
     EXPECT_TRUE(gui.isCommandEnabled(aec::commands::paste));
+    EXPECT_TRUE(followsClipboard());
 
     activity->activate();
-    EXPECT_EQ(gui.commandStates, activeStates);
-    EXPECT_EQ(registry.listeners.size(), 1u);
+    expectStates(true);
+    EXPECT_TRUE(followsClipboard());
 
     for (int round = 0; round < 2; ++round)
     {
-        gui.removedHandlers.clear();
-        gui.commandStates.clear();
         activity->deactivate();
         activity->deactivate();
-        EXPECT_EQ(gui.removedHandlers, (std::vector<int>{86, 11, 22, 12}));
-        EXPECT_EQ(gui.commandStates, (std::vector<State>{{true, 83, false}}));
-        EXPECT_FALSE(gui.contextMenuHandler);
-        EXPECT_TRUE(registry.listeners.empty());
-        // Copy, cut and paste stay bound for the activity's whole life.
-        for (const int command : {81, 82, 85})
-            EXPECT_TRUE(gui.hasHandler(command)) << command;
+        expectHandlers(activeCommands, false);
+        expectHandlers(lifelongCommands, true);
+        expectStates(false);
+        EXPECT_FALSE(gui.hasContextMenuHandler());
+        EXPECT_FALSE(followsClipboard());
 
-        gui.commandStates.clear();
         activity->activate();
         activity->activate();
-        for (const int command : {86, 12, 11, 22})
-            EXPECT_TRUE(gui.hasHandler(command)) << command;
-        EXPECT_EQ(gui.commandStates, activeStates);
-        EXPECT_TRUE(gui.contextMenuHandler);
-        EXPECT_EQ(registry.listeners.size(), 1u);
+        expectHandlers(activeCommands, true);
+        expectStates(true);
+        EXPECT_TRUE(gui.hasContextMenuHandler());
+        EXPECT_TRUE(followsClipboard());
     }
 
-    gui.removedHandlers.clear();
     activity.reset();
-    EXPECT_EQ(gui.removedHandlers, (std::vector<int>{86, 11, 22, 12, 81, 82, 85}));
-    EXPECT_TRUE(registry.listeners.empty());
+    expectHandlers(activeCommands, false);
+    expectHandlers(lifelongCommands, false);
+    // A listener left behind would be told of this after its activity is gone.
+    clipboard.clear();
 }
 
 TEST_F(ProjectExplorerRootActivityTest, CommandsActOnTheSelectionOrNotAtAll)
 {
     const auto activity = view->createActivity();
+    EXPECT_FALSE(gui.isCommandEnabled(aec::commands::paste)) << "the clipboard is empty";
+    EXPECT_FALSE(gui.isCommandEnabled(aec::commands::copy));
 
     entityController.propertiesEditable = true;
     gui.runCommand(aec::commands::deleteSelection);
@@ -117,6 +151,7 @@ TEST_F(ProjectExplorerRootActivityTest, CommandsActOnTheSelectionOrNotAtAll)
     EXPECT_EQ(entityController.imports + entityController.pastes, 0);
     EXPECT_TRUE(entityController.copied.empty());
 
+    clipboard.setData(aec::clipboardFormatProjectEntities, L"entities");
     gui.runCommand(aec::commands::importTable);
     gui.runCommand(aec::commands::paste);
     EXPECT_EQ(entityController.imports, 1);
@@ -136,23 +171,23 @@ TEST_F(ProjectExplorerRootActivityTest, EachContextMenuIsMadeForTheSelectionOfIt
     const aec::EntityIdSet sheets = firstEntities(L"Sheets", 2);
     select({*sheets.begin()});
     gui.requestContextMenu({});
+    EXPECT_TRUE(hasRenameItem(gui.getLastContextMenu()));
     select(sheets);
     gui.requestContextMenu({});
-
-    ASSERT_EQ(gui.shownMenus.size(), 2u);
-    EXPECT_TRUE(hasRenameItem(gui.shownMenus[0]));
-    EXPECT_FALSE(hasRenameItem(gui.shownMenus[1]));
+    EXPECT_FALSE(hasRenameItem(gui.getLastContextMenu()));
 }
 
 TEST_F(ProjectExplorerRootActivityTest, NeedsAClipboardListenerRegistryAndHasNoDrawingTool)
 {
-    RecordingGui otherGui;
+    aec::host::CGui otherGui;
     const auto viewWithoutRegistry = createView();
     viewWithoutRegistry->setGui(&otherGui);
     const std::string noRegistry =
         violationSite<common::EPreconditionViolation>([&] { viewWithoutRegistry->createActivity(); });
     EXPECT_EQ(siteFile(noRegistry), activityFile);
-    EXPECT_TRUE(otherGui.handlers.empty());
+    for (const std::vector<int>& commands : {activeCommands, lifelongCommands})
+        for (const int command : commands)
+            EXPECT_FALSE(otherGui.hasCommandHandler(command)) << command;
 
     const auto activity = view->createActivity();
     EXPECT_EQ(siteFile(violationSite<common::ENotImplemented>([&] { activity->forwardToDrawingTool(); })),

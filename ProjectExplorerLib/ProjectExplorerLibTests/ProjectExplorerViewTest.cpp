@@ -12,6 +12,7 @@
 #include "aec/ProjectExplorerGroupingModel.h"
 
 #include "Common/AssertionViolation.h"
+#include "HostFrame/GroupingButtons.h"
 
 #include <set>
 
@@ -37,7 +38,20 @@ public:
     mutable std::unique_ptr<aec::IProjectExplorer> explorer;
 };
 
-using ProjectExplorerViewTest = ExplorerViewFixture;
+class ProjectExplorerViewTest : public ExplorerViewFixture
+{
+protected:
+    // The number of the seven groupable groups' criterion and sort-order buttons that hold a callback.
+    static int boundButtons(const aec::host::CGui& gui)
+    {
+        int bound = 0;
+        for (const aec::ProjectExplorerGroupInfo& info : aec::projectExplorerGroups())
+            if (const auto buttons = aec::host::groupingButtonsOf(info))
+                for (const std::uint32_t button : {buttons->groupCriterion, buttons->sortOrder})
+                    bound += gui.hasButtonCallback(buttons->panel, button) ? 1 : 0;
+        return bound;
+    }
+};
 
 TEST_F(ProjectExplorerViewTest, CreationFailsWithoutPanelOrExplorer)
 {
@@ -72,13 +86,13 @@ TEST_F(ProjectExplorerViewTest, CreationFailsWithoutPanelOrExplorer)
 TEST_F(ProjectExplorerViewTest, TakesTheGuiOnceNeverNullAndMakesActivitiesOnlyAfterIt)
 {
     const auto view = createView();
-    view->setClipboardListenerRegistry(&registry);
+    view->setClipboardListenerRegistry(&clipboard);
 
     const std::string activityWithoutGui =
         violationSite<common::EPreconditionViolation>([&] { view->createActivity(); });
     const std::string nullGui = violationSite<common::EPreconditionViolation>([&] { view->setGui(nullptr); });
     view->setGui(&gui);
-    RecordingGui secondGui;
+    aec::host::CGui secondGui;
     const std::string secondSetGui =
         violationSite<common::EPreconditionViolation>([&] { view->setGui(&secondGui); });
 
@@ -86,10 +100,10 @@ TEST_F(ProjectExplorerViewTest, TakesTheGuiOnceNeverNullAndMakesActivitiesOnlyAf
         EXPECT_EQ(siteFile(site), viewFile);
     EXPECT_EQ((std::set{activityWithoutGui, nullGui, secondSetGui}).size(), 3u);
 
-    EXPECT_EQ(gui.documentActivatedRegistrations, 1);
-    EXPECT_EQ(gui.documentClosingRegistrations, 1);
-    EXPECT_TRUE(secondGui.buttonCallbacks.empty());
-    EXPECT_EQ(secondGui.documentActivatedRegistrations, 0);
+    EXPECT_TRUE(gui.hasDocumentActivatedRegistration());
+    EXPECT_TRUE(gui.hasDocumentClosingRegistration());
+    EXPECT_EQ(boundButtons(secondGui), 0);
+    EXPECT_FALSE(secondGui.hasDocumentActivatedRegistration());
     EXPECT_NE(view->createActivity(), nullptr);
 
     EXPECT_EQ(siteFile(violationSite<common::ENotImplemented>([&] { view->print(); })), viewFile);
@@ -100,23 +114,24 @@ TEST_F(ProjectExplorerViewTest, BindsGroupingButtonsOfGroupableGroupsToTheirOwnM
     auto view = createBoundView();
 
     // The seven groupable groups, two buttons each: criterion and sort order, on the group's panel.
-    ASSERT_EQ(gui.buttonCallbacks.size(), 14u);
+    EXPECT_EQ(boundButtons(gui), 14);
     const std::set<std::pair<std::uint32_t, std::uint32_t>> sheetsAndReinforcement{
         {840, 847}, {840, 854}, {846, 853}, {846, 860}};
-    for (const auto& button : sheetsAndReinforcement)
-        EXPECT_TRUE(gui.buttonCallbacks.contains(button)) << button.first << "/" << button.second;
+    for (const auto& [toolbar, button] : sheetsAndReinforcement)
+        EXPECT_TRUE(gui.hasButtonCallback(toolbar, button)) << toolbar << "/" << button;
 
     // Tables have the second row: the sort order chosen there is that of the Tables group alone.
-    gui.buttonCallbacks.at({841, 855})(L"2");
+    gui.registerSortButton(841, 855, L"Ascending", L"Descending");
+    gui.chooseButtonValue(841, 855, L"2");
     EXPECT_EQ(group(L"Tables").getGroupingModel().getSortOrder(),
               aec::IProjectExplorerGroupingModel::descending);
     EXPECT_EQ(group(L"Sheets").getGroupingModel().getSortOrder(),
               aec::IProjectExplorerGroupingModel::ascending);
 
     view.reset();
-    EXPECT_TRUE(gui.buttonCallbacks.empty());
-    EXPECT_EQ(gui.documentActivatedRegistrations, 0);
-    EXPECT_EQ(gui.documentClosingRegistrations, 0);
+    EXPECT_EQ(boundButtons(gui), 0);
+    EXPECT_FALSE(gui.hasDocumentActivatedRegistration());
+    EXPECT_FALSE(gui.hasDocumentClosingRegistration());
 }
 
 TEST_F(ProjectExplorerViewTest, GroupsWithoutButtonsStillGetAContextMenu)
@@ -128,13 +143,16 @@ TEST_F(ProjectExplorerViewTest, GroupsWithoutButtonsStillGetAContextMenu)
     const auto view = createViewCreator(factory, panelProvider, *eventHandlerFactory)
                           ->createView(panelOwner, hostContext, project->getPreferences(), entityController,
                                        translation, sessionManager, project->getObjectEvents(), clipboard);
-    view->setClipboardListenerRegistry(&registry);
+    view->setClipboardListenerRegistry(&clipboard);
     view->setGui(&gui);
 
-    EXPECT_TRUE(gui.buttonCallbacks.empty());
+    EXPECT_EQ(boundButtons(gui), 0);
     const auto activity = view->createActivity();
+    int shown = 0;
+    const boost::signals2::scoped_connection counting =
+        gui.contextMenuShownSignal().connect([&shown](const auto&, const auto&) { ++shown; });
     gui.requestContextMenu({1.0, 2.0});
-    EXPECT_EQ(gui.shownMenus.size(), 1u);
+    EXPECT_EQ(shown, 1);
 }
 
 TEST_F(ProjectExplorerViewTest, ForwardsOnlyEntityChangesWithEntitiesToThePanel)

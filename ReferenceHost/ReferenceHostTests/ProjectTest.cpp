@@ -6,6 +6,7 @@
 
 #include "Common/AssertionViolation.h"
 #include "Common/Exception.h"
+#include "CommonTests/ViolationSite.h"
 
 #include <gtest/gtest.h>
 
@@ -72,35 +73,22 @@ TEST(ProjectTest, RemovingATopicTakesItFromItsEntities)
     EXPECT_THROW(project.prepareTopicChange({project.findEntity(sheet)}, removed), common::EException);
 }
 
-// The message of the precondition violation that the call throws, or "" when it throws none.
-template <class Call>
-std::string preconditionSite(Call&& call)
-{
-    try
-    {
-        call();
-    }
-    catch (const common::EPreconditionViolation& violation)
-    {
-        return violation.what();
-    }
-    return {};
-}
-
 TEST(ProjectTest, MisuseIsAContractViolationOfTheProject)
 {
     CProject project;
     const TopicId topic = project.addTopic(L"Topic");
     const EntityId image = project.addEntity(EntityCollection::Images, L"Photo");
 
-    const std::string duplicate = preconditionSite(
+    using common::test::violationSite;
+    using Violation = common::EPreconditionViolation;
+    const std::string duplicate = violationSite<Violation>(
         [&] { project.addEntity(EntityCollection::Images, L"Same id", std::nullopt, image); });
-    const std::string imageTopic = preconditionSite([&] { project.setEntityTopic(image, topic); });
+    const std::string imageTopic = violationSite<Violation>([&] { project.setEntityTopic(image, topic); });
     const std::string unknown =
-        preconditionSite([&] { project.removeEntity(EntityId(common::UUID::create())); });
+        violationSite<Violation>([&] { project.removeEntity(EntityId(common::UUID::create())); });
 
     for (const std::string& site : {duplicate, imageTopic, unknown})
-        EXPECT_NE(site.find("ReferenceHost/AecModel/Project.cpp"), std::string::npos) << site;
+        EXPECT_EQ(common::test::siteFile(site), "ReferenceHost/AecModel/Project.cpp");
     EXPECT_NE(duplicate, imageTopic);
     EXPECT_NE(imageTopic, unknown);
     EXPECT_EQ(project.entityCount(), 2u);

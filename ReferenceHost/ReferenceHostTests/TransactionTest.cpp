@@ -100,20 +100,6 @@ TEST_F(TransactionTest, DestructionWithoutCommitRestoresTheProjectExactly)
     EXPECT_FALSE(project.getUndoHistory().canRedo());
 }
 
-TEST_F(TransactionTest, ExceptionInsideTransactionRollsBack)
-{
-    const std::string before = project.canonicalDump();
-    const auto work = [&]
-    {
-        auto transaction = open("Failing work");
-        project.renameEntity(sheets[0], L"Half done");
-        throw common::EException("work failed");
-    };
-    EXPECT_THROW(work(), common::EException);
-    EXPECT_EQ(project.canonicalDump(), before);
-    EXPECT_FALSE(project.getUndoHistory().canUndo());
-}
-
 TEST_F(TransactionTest, NestedTransactionJoinsTheOuterOne)
 {
     const std::string before = project.canonicalDump();

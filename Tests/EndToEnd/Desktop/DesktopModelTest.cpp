@@ -20,7 +20,6 @@
 
 #include <QAbstractItemModelTester>
 #include <QAction>
-#include <QFile>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -69,48 +68,35 @@ private Q_SLOTS:
         session_.reset();
     }
 
-    void foldsGoThroughThePanelAndComeBack()
+    // The window's tests follow folds and the selection from the tree view through this model to
+    // the explorer and back; what only the model shows is its signal and what it refuses.
+    void foldsAreSignalledOnceAndOnlyForGroupsAndSubgroups()
     {
         QSignalSpy folds(model_.get(), &CExplorerItemModel::expandedChanged);
         const QModelIndex sheets = model_->index(0, 0);
         model_->setExpanded(sheets, true);
-        QVERIFY(group(0).isExpanded());
-        QVERIFY(model_->isExpanded(sheets));
         QCOMPARE(folds.count(), 1);
-
-        const QModelIndex ungrouped = model_->index(0, 0, sheets);
-        model_->setExpanded(ungrouped, true);
-        QVERIFY(group(0).getSubgroups().begin()->isExpanded());
-
-        // A fold from elsewhere (a click in the panel) reaches the model and its views.
         session_->getPanel().toggleGroup(2);
-        QVERIFY(model_->isExpanded(model_->index(2, 0)));
-        QCOMPARE(folds.count(), 3);
+        QCOMPARE(folds.count(), 2);
         QCOMPARE(folds.last().at(0).value<QModelIndex>(), model_->index(2, 0));
 
         // Entities do not fold, and asking for the state the explorer has already does nothing.
-        model_->setExpanded(model_->index(0, 0, ungrouped), true);
+        model_->setExpanded(model_->index(0, 0, model_->index(0, 0, sheets)), true);
         model_->setExpanded(sheets, true);
-        QCOMPARE(folds.count(), 3);
+        QCOMPARE(folds.count(), 2);
         QVERIFY(group(0).isExpanded());
         VERIFY_MODEL_MIRRORS_EXPLORER();
     }
 
-    void selectionGoesBothWays()
+    void aSelectionFromThePanelAddsAndGroupRowsAreNotSelectable()
     {
         const QModelIndex doorSchedule = entityIndex(L"Door schedule");
         selection_->select(doorSchedule, QItemSelectionModel::ClearAndSelect);
-        QCOMPARE(session_->getSelection(), EntityIdSet{entityNamed(L"Door schedule")});
-        // The explorer unfolds what holds a selected entity, and the model follows.
-        QVERIFY(model_->isExpanded(doorSchedule.parent()));
-        QVERIFY(model_->isExpanded(doorSchedule.parent().parent()));
-
         const EntityId roomList = entityNamed(L"Room list 2");
         session_->getPanel().changeSelection({roomList}, {});
         QVERIFY(selection_->isSelected(model_->indexOfEntity(roomList)));
         QVERIFY(selection_->isSelected(doorSchedule));
 
-        // Group and subgroup rows are not selectable: selecting one leaves the explorer's selection empty.
         selection_->select(model_->index(0, 0), QItemSelectionModel::ClearAndSelect);
         QVERIFY(session_->getSelection().empty());
         QCOMPARE(failures_->count(), 0);
@@ -164,25 +150,20 @@ private Q_SLOTS:
         VERIFY_MODEL_MIRRORS_EXPLORER();
     }
 
-    void aFailedRenameIsReportedAndChangesNothing()
+    // A refused rename reaches the user through the window's message box, tested there.
+    void topicsAreNotRenamable()
     {
         const std::string before = session_->getProject().canonicalDump();
-        const QModelIndex cover = model_->indexOfEntity(entityNamed(L"Cover sheet"));
-        QVERIFY(!model_->setData(cover, QString("Sheet A-3")));
-        QCOMPARE(failures_->count(), 1);
-        QVERIFY(!failures_->front().front().toString().isEmpty());
-        QCOMPARE(session_->getProject().canonicalDump(), before);
-        QCOMPARE(cover.data().toString(), QString("Cover sheet"));
-
-        // Topics are not renamable: the model refuses without asking the controller.
         const QModelIndex topic = entityIndex(L"Structure");
         QVERIFY(!(model_->flags(topic) & Qt::ItemIsEditable));
         QVERIFY(!model_->setData(topic, QString("Statics")));
-        QCOMPARE(failures_->count(), 1);
+        QCOMPARE(failures_->count(), 0);
         QCOMPARE(session_->getProject().canonicalDump(), before);
     }
 
-    void deleteCopyPasteImportAndTopicChangeFollowTheProjectThroughUndoAndRedo()
+    // Rows go, come back and move between subgroups; the rows that a paste or an import adds come
+    // the way that undoing a deletion brings them back.
+    void deleteAndTopicChangeFollowTheProjectThroughUndoAndRedo()
     {
         host::CHostServices& services = session_->getHostServices();
         host::CGui& gui = session_->getGui();
@@ -199,29 +180,6 @@ private Q_SLOTS:
         QVERIFY(selection_->getSelectedEntities().empty());
         VERIFY_MODEL_MIRRORS_EXPLORER();
         checkUndoAndRedo([&] { return model_->indexOfEntity(roof).isValid(); });
-
-        const EntityId brick = entityNamed(L"Brick 240");
-        selection_->select(model_->indexOfEntity(brick), QItemSelectionModel::ClearAndSelect);
-        gui.runCommand(commands::copy);
-        gui.runCommand(commands::paste);
-        QVERIFY(entityIndex(L"Brick 240 (2)").isValid());
-        VERIFY_MODEL_MIRRORS_EXPLORER();
-        checkUndoAndRedo([&] { return findEntityIndex(L"Brick 240 (2)").isValid(); });
-
-        QTemporaryDir directory;
-        QVERIFY(directory.isValid());
-        const QString csv = directory.filePath("Fire doors.csv");
-        QFile file(csv);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("Mark,Rating\nD1,T30\nD2,T90\n");
-        file.close();
-        const int tablesBefore = model_->index(1, 0).data(CExplorerItemModel::EntityCountRole).toInt();
-        services.getImportFileDialog().queueAnswer(csv.toStdWString());
-        gui.runCommand(commands::importTable);
-        QCOMPARE(model_->index(1, 0).data(CExplorerItemModel::EntityCountRole).toInt(), tablesBefore + 1);
-        QVERIFY(entityIndex(L"Fire doors").isValid());
-        VERIFY_MODEL_MIRRORS_EXPLORER();
-        checkUndoAndRedo([&] { return findEntityIndex(L"Fire doors").isValid(); });
 
         chooseButton(&host::GroupingButtonIds::groupCriterion, topicCriterion());
         const EntityId cover = entityNamed(L"Cover sheet");
@@ -274,26 +232,20 @@ private Q_SLOTS:
         QVERIFY2(gui.canRunCommand(commands::paste), "the copy item put the door style on the clipboard");
     }
 
-    void aReopenedProjectShowsTheFoldsAndGroupingItWasSavedWith()
+    // What a file brings back is checked in the explorer's and the shell's tests; the model must
+    // follow the project that the load puts in place of the old one, and the close.
+    void theModelFollowsAReopenedAndAClosedProject()
     {
         model_->setExpanded(model_->index(0, 0), true);
         chooseButton(&host::GroupingButtonIds::groupCriterion, topicCriterion());
-        chooseButton(&host::GroupingButtonIds::sortOrder, L"2");
-        model_->setExpanded(subgroupIndex(0, L"Structure"), true);
-        const QStringList subgroupsBefore = subgroupNames(*model_, 0);
 
         QTemporaryDir directory;
         QVERIFY(directory.isValid());
         const std::filesystem::path file = directory.filePath("project.json").toStdWString();
         session_->save(file);
         session_->load(file);
-
         VERIFY_MODEL_MIRRORS_EXPLORER();
         QVERIFY(model_->isExpanded(model_->index(0, 0)));
-        QCOMPARE(subgroupNames(*model_, 0), subgroupsBefore);
-        QVERIFY(model_->isExpanded(subgroupIndex(0, L"Structure")));
-        QVERIFY(!model_->isExpanded(model_->index(1, 0)));
-        QVERIFY2(undoNames().empty(), "a loaded project starts without history");
 
         session_->close();
         QCOMPARE(model_->rowCount(), 0);
@@ -312,7 +264,6 @@ private:
         qFatal("the sample project has no entity named %ls", name.c_str());
     }
 
-    QModelIndex findEntityIndex(const std::wstring& name) const { return findEntityRow(*model_, name); }
 
     QModelIndex entityIndex(const std::wstring& name) const { return entityRow(*model_, name); }
 
