@@ -2,8 +2,6 @@
 
 #include "AecModel/Project.h"
 
-#include "aec/ProjectExplorerEntityControllerFactory.h"
-
 namespace aec::model
 {
 
@@ -16,13 +14,5 @@ CProjectServices::CProjectServices(CProject& project)
 }
 
 CProjectServices::~CProjectServices() = default;
-
-std::unique_ptr<IProjectExplorerEntityController>
-CProjectServices::createController(const IProjectExplorerEntityControllerFactory& factory)
-{
-    return factory.createController(classifier_, entitySource_, copyDataBuilder_, sheetHandler_,
-                                    tableHandler_, assemblyHandler_, materialHandler_, operationGuardSource_,
-                                    pasteHandler_);
-}
 
 } // namespace aec::model

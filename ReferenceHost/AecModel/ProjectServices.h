@@ -8,21 +8,13 @@
 #include "AecModel/OperationGuardSource.h"
 #include "AecModel/PasteHandler.h"
 
-#include "aec/ProjectExplorerEntityController.h"
-
-#include <memory>
-
-namespace aec
-{
-class IProjectExplorerEntityControllerFactory;
-}
-
 namespace aec::model
 {
 
 class CProject;
 
-// The per-project services that an entity controller is made from, for one project that outlives
+// The per-project services that an entity controller is made from (the host frame's project binding
+// hands them to the library's controller factory), for one project that outlives
 // them: classifier, entity source, copy-data builder, the type handlers of the four handled types
 // (sheets, tables, assemblies, materials, in that order), the operation guard source and the paste
 // handler.
@@ -33,10 +25,6 @@ public:
     ~CProjectServices();
     CProjectServices(const CProjectServices&) = delete;
     CProjectServices& operator=(const CProjectServices&) = delete;
-
-    // A controller over these services, which must outlive it.
-    std::unique_ptr<IProjectExplorerEntityController>
-    createController(const IProjectExplorerEntityControllerFactory& factory);
 
     CProject& getProject() noexcept { return project_; }
     const CEntityClassifier& getClassifier() const noexcept { return classifier_; }
