@@ -16,8 +16,8 @@ constexpr int commandVariant = 0;
 
 CProjectExplorerCopyCutController::CProjectExplorerCopyCutController(
     aec::IGui& gui, aec::IProjectExplorerEntityController& entityController,
-    aec::IProjectExplorerEntitySelection& selection)
-    : gui_(gui), entityController_(entityController), selection_(selection)
+    aec::IProjectExplorerEntitySelection& selection, aec::ObjectEventSource& objectEvents)
+    : gui_(gui), entityController_(entityController), selection_(selection), objectEvents_(objectEvents)
 {
     gui_.addCommandHandler(aec::commands::copy, commandVariant, [this] { runCopy(); });
     gui_.addCommandHandler(aec::commands::cut, commandVariant, [this] { runCut(); });
@@ -26,10 +26,12 @@ CProjectExplorerCopyCutController::CProjectExplorerCopyCutController(
     // The panel may hold a selection from before this controller was made; the commands follow
     // it from the start, not only from its next change.
     selectionChanged();
+    objectEvents_.addObserver(*this);
 }
 
 CProjectExplorerCopyCutController::~CProjectExplorerCopyCutController()
 {
+    objectEvents_.removeObserver(*this);
     selectionConnection_.disconnect();
     active_ = false;
     gui_.enableCommand(aec::commands::copy, false);
@@ -51,10 +53,20 @@ void CProjectExplorerCopyCutController::selectionChanged()
     refreshAvailability();
 }
 
+void CProjectExplorerCopyCutController::onObjectsChanged(std::uint32_t /*code*/, std::uint32_t /*value*/,
+                                                         const aec::EntityIdSet& /*changed*/,
+                                                         const aec::EntityIdSet& /*removed*/)
+{
+    if (availabilityStale_)
+        refreshAvailability();
+}
+
 void CProjectExplorerCopyCutController::refreshAvailability()
 {
+    availabilityStale_ = true;
     gui_.enableCommand(aec::commands::copy, canRun());
     gui_.enableCommand(aec::commands::cut, canRun());
+    availabilityStale_ = false;
 }
 
 bool CProjectExplorerCopyCutController::canRun() const

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "aec/EntityId.h"
+#include "aec/ObjectEvents.h"
+#include "aec/ProjectExplorerViewCreator.h"
 
 #include <boost/signals2/connection.hpp>
 
@@ -17,15 +19,21 @@ namespace project_explorer
 // Binds the host's copy and cut commands to the explorer's selection: both are enabled exactly
 // while the controller is active and something is selected, and run the entity controller's copy
 // and cut on what is selected. The handlers stay registered for the controller's life.
-class CProjectExplorerCopyCutController
+//
+// The selection also changes while the explorer follows a change of the project (removed entities
+// leave it). A GUI that fails to show the new availability then aborts that change, which is rolled
+// back without the selection changing again; the controller shows the availability once more when
+// the project tells of its next change, the rollback, so that the commands do not stay stale.
+class CProjectExplorerCopyCutController : private aec::IObjectEvents
 {
 public:
     // Registers the two command handlers and follows the selection from its current content on.
-    // The three must outlive the controller.
+    // All four must outlive the controller.
     CProjectExplorerCopyCutController(aec::IGui& gui, aec::IProjectExplorerEntityController& entityController,
-                                      aec::IProjectExplorerEntitySelection& selection);
+                                      aec::IProjectExplorerEntitySelection& selection,
+                                      aec::ObjectEventSource& objectEvents);
     // Disables both commands and unregisters their handlers.
-    virtual ~CProjectExplorerCopyCutController();
+    ~CProjectExplorerCopyCutController() override;
     CProjectExplorerCopyCutController(const CProjectExplorerCopyCutController&) = delete;
     CProjectExplorerCopyCutController& operator=(const CProjectExplorerCopyCutController&) = delete;
 
@@ -33,6 +41,11 @@ public:
     virtual void setActive(bool active);
 
 private:
+    void onProjectOpened() override {}
+    void onObjectsChanged(std::uint32_t code, std::uint32_t value, const aec::EntityIdSet& changed,
+                          const aec::EntityIdSet& removed) override;
+    void onProjectClosing() override {}
+
     void selectionChanged();
     void refreshAvailability();
     bool canRun() const;
@@ -42,8 +55,12 @@ private:
     aec::IGui& gui_;
     aec::IProjectExplorerEntityController& entityController_;
     aec::IProjectExplorerEntitySelection& selection_;
+    aec::ObjectEventSource& objectEvents_;
     aec::EntityIdList selected_;
     bool active_ = true;
+    // Whether the GUI may show another availability than the controller's: from the start of an
+    // update of the two commands until both calls have succeeded.
+    bool availabilityStale_ = false;
     boost::signals2::scoped_connection selectionConnection_;
 };
 

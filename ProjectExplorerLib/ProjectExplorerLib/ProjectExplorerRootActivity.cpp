@@ -80,7 +80,7 @@ CProjectExplorerRootActivity::CProjectExplorerRootActivity(
       entityController_(entityController), selection_(selection), sessionManager_(sessionManager),
       objectEvents_(objectEvents), clipboard_(clipboard), hostContext_(hostContext),
       pasteController_(clipboardListenerRegistry_, gui_, aec::clipboardFormatProjectEntities),
-      copyCutController_(gui_, entityController_, selection_)
+      copyCutController_(gui_, entityController_, selection_, objectEvents_)
 {
     // The signal belongs to the paste controller, which the activity outlives, so the connection
     // needs no keeping.
