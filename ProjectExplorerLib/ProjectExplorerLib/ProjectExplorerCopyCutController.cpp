@@ -1,5 +1,6 @@
 #include "ProjectExplorerLib/ProjectExplorerCopyCutController.h"
 
+#include "Common/Check.h"
 #include "aec/Commands.h"
 #include "aec/Gui.h"
 #include "aec/ProjectExplorerEntityController.h"
@@ -16,8 +17,8 @@ constexpr int commandVariant = 0;
 
 CProjectExplorerCopyCutController::CProjectExplorerCopyCutController(
     aec::IGui& gui, aec::IProjectExplorerEntityController& entityController,
-    aec::IProjectExplorerEntitySelection& selection, aec::ObjectEventSource& objectEvents)
-    : gui_(gui), entityController_(entityController), selection_(selection), objectEvents_(objectEvents)
+    aec::IProjectExplorerEntitySelection& selection)
+    : gui_(gui), entityController_(entityController), selection_(selection)
 {
     gui_.addCommandHandler(aec::commands::copy, commandVariant, [this] { runCopy(); });
     gui_.addCommandHandler(aec::commands::cut, commandVariant, [this] { runCut(); });
@@ -26,12 +27,12 @@ CProjectExplorerCopyCutController::CProjectExplorerCopyCutController(
     // The panel may hold a selection from before this controller was made; the commands follow
     // it from the start, not only from its next change.
     selectionChanged();
-    objectEvents_.addObserver(*this);
 }
 
 CProjectExplorerCopyCutController::~CProjectExplorerCopyCutController()
 {
-    objectEvents_.removeObserver(*this);
+    if (objectEvents_ != nullptr)
+        objectEvents_->removeObserver(*this);
     selectionConnection_.disconnect();
     active_ = false;
     gui_.enableCommand(aec::commands::copy, false);
@@ -44,6 +45,13 @@ void CProjectExplorerCopyCutController::setActive(bool active)
 {
     active_ = active;
     refreshAvailability();
+}
+
+void CProjectExplorerCopyCutController::followProjectChanges(aec::ObjectEventSource& objectEvents)
+{
+    COMMON_PRECONDITION(objectEvents_ == nullptr);
+    objectEvents_ = &objectEvents;
+    objectEvents_->addObserver(*this);
 }
 
 void CProjectExplorerCopyCutController::selectionChanged()

@@ -22,16 +22,16 @@ namespace project_explorer
 //
 // The selection also changes while the explorer follows a change of the project (removed entities
 // leave it). A GUI that fails to show the new availability then aborts that change, which is rolled
-// back without the selection changing again; the controller shows the availability once more when
-// the project tells of its next change, the rollback, so that the commands do not stay stale.
+// back without the selection changing again. A controller told to follow the project's changes
+// shows the availability once more at the next change, the rollback, so that the commands do not
+// stay stale.
 class CProjectExplorerCopyCutController : private aec::IObjectEvents
 {
 public:
     // Registers the two command handlers and follows the selection from its current content on.
-    // All four must outlive the controller.
+    // The three must outlive the controller.
     CProjectExplorerCopyCutController(aec::IGui& gui, aec::IProjectExplorerEntityController& entityController,
-                                      aec::IProjectExplorerEntitySelection& selection,
-                                      aec::ObjectEventSource& objectEvents);
+                                      aec::IProjectExplorerEntitySelection& selection);
     // Disables both commands and unregisters their handlers.
     ~CProjectExplorerCopyCutController() override;
     CProjectExplorerCopyCutController(const CProjectExplorerCopyCutController&) = delete;
@@ -39,6 +39,10 @@ public:
 
     // While inactive, both commands are disabled and do nothing.
     virtual void setActive(bool active);
+
+    // Follows the changes of the project the explorer shows, until the controller's end; the source
+    // must outlive the controller. Called once.
+    void followProjectChanges(aec::ObjectEventSource& objectEvents);
 
 private:
     void onProjectOpened() override {}
@@ -55,7 +59,7 @@ private:
     aec::IGui& gui_;
     aec::IProjectExplorerEntityController& entityController_;
     aec::IProjectExplorerEntitySelection& selection_;
-    aec::ObjectEventSource& objectEvents_;
+    aec::ObjectEventSource* objectEvents_ = nullptr;
     aec::EntityIdList selected_;
     bool active_ = true;
     // Whether the GUI may show another availability than the controller's: from the start of an

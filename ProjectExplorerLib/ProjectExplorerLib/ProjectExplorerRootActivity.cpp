@@ -80,11 +80,13 @@ CProjectExplorerRootActivity::CProjectExplorerRootActivity(
       entityController_(entityController), selection_(selection), sessionManager_(sessionManager),
       objectEvents_(objectEvents), clipboard_(clipboard), hostContext_(hostContext),
       pasteController_(clipboardListenerRegistry_, gui_, aec::clipboardFormatProjectEntities),
-      copyCutController_(gui_, entityController_, selection_, objectEvents_)
+      copyCutController_(gui_, entityController_, selection_)
 {
     // The signal belongs to the paste controller, which the activity outlives, so the connection
     // needs no keeping.
     pasteController_.pasteRequestedSignal().connect(boost::bind(&CProjectExplorerRootActivity::paste, this));
+    // A change that the GUI failed to follow is rolled back; copy and cut then show their state again.
+    copyCutController_.followProjectChanges(objectEvents_);
     activate();
 }
 

@@ -25,7 +25,7 @@ protected:
 
 TEST_F(CopyCutControllerTest, CommandsFollowTheSelectionAndTheActiveFlag)
 {
-    copyCut.emplace(gui, *controller, selection, project.getObjectEvents());
+    copyCut.emplace(gui, *controller, selection);
     EXPECT_FALSE(copyEnabled());
     EXPECT_FALSE(cutEnabled());
 
@@ -55,7 +55,7 @@ TEST_F(CopyCutControllerTest, CommandsFollowTheSelectionAndTheActiveFlag)
 
 TEST_F(CopyCutControllerTest, CommandsRunOnTheSelection)
 {
-    copyCut.emplace(gui, *controller, selection, project.getObjectEvents());
+    copyCut.emplace(gui, *controller, selection);
     selection.setSelection({sheet1, sheet2});
     gui.runCommand(aec::commands::copy);
     EXPECT_TRUE(clipboard.hasData(aec::clipboardFormatProjectEntities));
@@ -70,7 +70,7 @@ TEST_F(CopyCutControllerTest, CommandsRunOnTheSelection)
 TEST_F(CopyCutControllerTest, StartsFromTheCurrentSelectionAndLetsGoOfTheCommands)
 {
     selection.setSelection({material});
-    copyCut.emplace(gui, *controller, selection, project.getObjectEvents());
+    copyCut.emplace(gui, *controller, selection);
     EXPECT_TRUE(copyEnabled());
     EXPECT_TRUE(gui.hasCommandHandler(aec::commands::copy));
     EXPECT_TRUE(gui.hasCommandHandler(aec::commands::cut));
