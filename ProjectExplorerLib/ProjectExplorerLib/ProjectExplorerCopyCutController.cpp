@@ -1,5 +1,6 @@
 #include "ProjectExplorerLib/ProjectExplorerCopyCutController.h"
 
+#include "Common/Check.h"
 #include "aec/Commands.h"
 #include "aec/Gui.h"
 #include "aec/ProjectExplorerEntityController.h"
@@ -30,6 +31,8 @@ CProjectExplorerCopyCutController::CProjectExplorerCopyCutController(
 
 CProjectExplorerCopyCutController::~CProjectExplorerCopyCutController()
 {
+    if (objectEvents_ != nullptr)
+        objectEvents_->removeObserver(*this);
     selectionConnection_.disconnect();
     active_ = false;
     gui_.enableCommand(aec::commands::copy, false);
@@ -44,6 +47,13 @@ void CProjectExplorerCopyCutController::setActive(bool active)
     refreshAvailability();
 }
 
+void CProjectExplorerCopyCutController::followProjectChanges(aec::ObjectEventSource& objectEvents)
+{
+    COMMON_PRECONDITION(objectEvents_ == nullptr);
+    objectEvents_ = &objectEvents;
+    objectEvents_->addObserver(*this);
+}
+
 void CProjectExplorerCopyCutController::selectionChanged()
 {
     const aec::EntityIdSet& selection = selection_.getSelection();
@@ -51,10 +61,20 @@ void CProjectExplorerCopyCutController::selectionChanged()
     refreshAvailability();
 }
 
+void CProjectExplorerCopyCutController::onObjectsChanged(std::uint32_t /*code*/, std::uint32_t /*value*/,
+                                                         const aec::EntityIdSet& /*changed*/,
+                                                         const aec::EntityIdSet& /*removed*/)
+{
+    if (availabilityStale_)
+        refreshAvailability();
+}
+
 void CProjectExplorerCopyCutController::refreshAvailability()
 {
+    availabilityStale_ = true;
     gui_.enableCommand(aec::commands::copy, canRun());
     gui_.enableCommand(aec::commands::cut, canRun());
+    availabilityStale_ = false;
 }
 
 bool CProjectExplorerCopyCutController::canRun() const

@@ -85,6 +85,8 @@ CProjectExplorerRootActivity::CProjectExplorerRootActivity(
     // The signal belongs to the paste controller, which the activity outlives, so the connection
     // needs no keeping.
     pasteController_.pasteRequestedSignal().connect(boost::bind(&CProjectExplorerRootActivity::paste, this));
+    // A change that the GUI failed to follow is rolled back; copy and cut then show their state again.
+    copyCutController_.followProjectChanges(objectEvents_);
     activate();
 }
 

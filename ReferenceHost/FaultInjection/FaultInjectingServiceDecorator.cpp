@@ -3,11 +3,15 @@
 #include "Common/Check.h"
 #include "FaultInjection/FaultyAttributeValueFormatter.h"
 #include "FaultInjection/FaultyClipboard.h"
+#include "FaultInjection/FaultyClipboardListenerRegistry.h"
 #include "FaultInjection/FaultyCopyDataBuilder.h"
 #include "FaultInjection/FaultyDialogService.h"
 #include "FaultInjection/FaultyEntityClassifier.h"
 #include "FaultInjection/FaultyEntitySource.h"
 #include "FaultInjection/FaultyEntityTypeHandler.h"
+#include "FaultInjection/FaultyGui.h"
+#include "FaultInjection/FaultyGuiProvider.h"
+#include "FaultInjection/FaultyHostContext.h"
 #include "FaultInjection/FaultyImportFileDialog.h"
 #include "FaultInjection/FaultyOperationGuardSource.h"
 #include "FaultInjection/FaultyPasteDataSerializer.h"
@@ -16,6 +20,7 @@
 #include "FaultInjection/FaultyPropertyContainerEditor.h"
 #include "FaultInjection/FaultyProxyAppGui.h"
 #include "FaultInjection/FaultySessionManager.h"
+#include "FaultInjection/FaultyStatusService.h"
 #include "FaultInjection/FaultyTitleBlockIO.h"
 #include "FaultInjection/FaultyTranslation.h"
 
@@ -31,14 +36,18 @@ public:
           translation(plan, services.translation), sessionManager(plan, services.sessionManager),
           importFileDialog(plan, services.importFileDialog), propertyEditor(plan, services.propertyEditor),
           dialogService(plan, services.dialogService), titleBlockIO(plan, services.titleBlockIO),
-          pasteDataSerializer(plan, services.pasteDataSerializer), formatter(plan, services.formatter)
+          pasteDataSerializer(plan, services.pasteDataSerializer), formatter(plan, services.formatter),
+          guiProvider(plan, services.guiProvider), gui(plan, services.gui),
+          statusService(plan, services.statusService),
+          clipboardListenerRegistry(plan, services.clipboardListenerRegistry)
     {
     }
 
     host::ApplicationServiceSet services()
     {
-        return {clipboard,      proxyAppGui,   translation,  sessionManager,      importFileDialog,
-                propertyEditor, dialogService, titleBlockIO, pasteDataSerializer, formatter};
+        return {clipboard,      proxyAppGui,   translation,   sessionManager,           importFileDialog,
+                propertyEditor, dialogService, titleBlockIO,  pasteDataSerializer,      formatter,
+                guiProvider,    gui,           statusService, clipboardListenerRegistry};
     }
 
     CFaultyClipboard clipboard;
@@ -51,26 +60,33 @@ public:
     CFaultyTitleBlockIO titleBlockIO;
     CFaultyPasteDataSerializer pasteDataSerializer;
     CFaultyAttributeValueFormatter formatter;
+    CFaultyGuiProvider guiProvider;
+    CFaultyGui gui;
+    CFaultyStatusService statusService;
+    CFaultyClipboardListenerRegistry clipboardListenerRegistry;
 };
 
 // The decorations of one project's services.
 class CFaultInjectingServiceDecorator::CProjectDecorations
 {
 public:
-    CProjectDecorations(CFaultPlan& plan, const host::ProjectServiceSet& services)
+    CProjectDecorations(CFaultPlan& plan, const host::ProjectServiceSet& services,
+                        const CFaultySessionManager& sessionManager)
         : classifier(plan, services.classifier), entitySource(plan, services.entitySource),
           copyDataBuilder(plan, services.copyDataBuilder), sheetHandler(plan, services.sheetHandler),
           tableHandler(plan, services.tableHandler), assemblyHandler(plan, services.assemblyHandler),
           materialHandler(plan, services.materialHandler),
           operationGuardSource(plan, services.operationGuardSource),
-          pasteHandler(plan, services.pasteHandler), preferences(plan, services.preferences)
+          pasteHandler(plan, services.pasteHandler), preferences(plan, services.preferences),
+          hostContext(plan, services.hostContext, sessionManager)
     {
     }
 
     host::ProjectServiceSet services()
     {
-        return {classifier,      entitySource,    copyDataBuilder,      sheetHandler, tableHandler,
-                assemblyHandler, materialHandler, operationGuardSource, pasteHandler, preferences};
+        return {classifier,   entitySource,    copyDataBuilder, sheetHandler,
+                tableHandler, assemblyHandler, materialHandler, operationGuardSource,
+                pasteHandler, preferences,     hostContext};
     }
 
     CFaultyEntityClassifier classifier;
@@ -83,6 +99,7 @@ public:
     CFaultyOperationGuardSource operationGuardSource;
     CFaultyPasteHandler pasteHandler;
     CFaultyProjectPreferences preferences;
+    CFaultyHostContext hostContext;
 };
 
 CFaultInjectingServiceDecorator::CFaultInjectingServiceDecorator(CFaultPlan& plan) : plan_(plan) {}
@@ -105,7 +122,7 @@ CFaultInjectingServiceDecorator::decorateProjectServices(const host::ProjectServ
     // The previous project is closed by now, and with it everything that held its decorations.
     application_->sessionManager.forgetProjects();
     application_->proxyAppGui.forgetDocuments();
-    project_ = std::make_unique<CProjectDecorations>(plan_, services);
+    project_ = std::make_unique<CProjectDecorations>(plan_, services, application_->sessionManager);
     return project_->services();
 }
 

@@ -21,10 +21,16 @@ public:
 
     IProject& getCurrentProject() const override;
 
+    // The decoration of the current project, which must be the given one, without a fault point:
+    // for the host context, which hands the library the same project.
+    const IProject& decorationOf(const IProject& project) const;
+
     // Drops the decorations of the projects handed out so far; for when they have been closed.
     void forgetProjects() noexcept;
 
 private:
+    IProject& decorate(IProject& project) const;
+
     CFaultPlan& plan_;
     const IProjectSessionManager& inner_;
     mutable std::map<const IProject*, std::unique_ptr<CFaultyProject>> projects_;

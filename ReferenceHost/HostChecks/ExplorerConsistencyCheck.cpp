@@ -9,6 +9,7 @@
 #include "HostFrame/Gui.h"
 #include "HostServices/HostServices.h"
 #include "ProjectExplorerLib/ProjectExplorerExports.h"
+#include "aec/ClipboardFormats.h"
 #include "aec/Commands.h"
 #include "aec/Entity.h"
 #include "aec/ProjectExplorer.h"
@@ -171,6 +172,7 @@ CExplorerConsistencyCheck::CExplorerConsistencyCheck(CExplorerSession& session)
 {
     preferences_ = &session.getProject().getPreferences();
     gui_ = &session.getGui();
+    clipboard_ = &session.getHostServices().getClipboard();
 }
 
 CExplorerConsistencyCheck::~CExplorerConsistencyCheck() = default;
@@ -249,6 +251,10 @@ std::optional<std::string> CExplorerConsistencyCheck::findCommandDifference() co
             return fmt::format("{} is {} while {} selected", name,
                                gui_->isCommandEnabled(command) ? "enabled" : "disabled",
                                selected ? "entities are" : "nothing is");
+    const bool pasteable = clipboard_->hasData(clipboardFormatProjectEntities);
+    if (gui_->isCommandEnabled(commands::paste) != pasteable)
+        return fmt::format("Paste is {} while the clipboard holds {}project entities",
+                           pasteable ? "disabled" : "enabled", pasteable ? "" : "no ");
     return std::nullopt;
 }
 

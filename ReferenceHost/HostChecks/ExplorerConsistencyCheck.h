@@ -7,6 +7,7 @@
 namespace aec
 {
 class IAttributeValueFormatter;
+class IClipboard;
 class IProject;
 class IProjectExplorer;
 class IProjectExplorerStateMonitor;
@@ -28,7 +29,7 @@ class CGui;
 //
 // Made from a session, it also compares the state stored in the project's preferences with the
 // tree, once one is stored, and checks that copy and cut are enabled exactly when something is
-// selected. A project that comes with a stored state may name subgroups that are gone; such a
+// selected, and paste exactly when the clipboard holds project entities. A project that comes with a stored state may name subgroups that are gone; such a
 // state is kept until the explorer's first change, and the check reports it meanwhile.
 class CExplorerConsistencyCheck
 {
@@ -58,6 +59,7 @@ private:
     const IAttributeValueFormatter& formatter_;
     const IProjectPreferences* preferences_ = nullptr;
     const CGui* gui_ = nullptr;
+    const IClipboard* clipboard_ = nullptr;
     std::unique_ptr<IProjectExplorerStateMonitor> monitor_;
 };
 

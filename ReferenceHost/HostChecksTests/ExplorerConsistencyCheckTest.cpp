@@ -138,6 +138,11 @@ TEST_F(ExplorerConsistencyCheckTest, FindsASelectionOrCommandsThatDisagreeWithTh
     session.getPanel().changeSelection({}, {unknown});
     session.getGui().enableCommand(commands::cut, true);
     EXPECT_THAT(check.findDifference(), Optional(HasSubstr("Cut is enabled while nothing is selected")));
+
+    session.getGui().enableCommand(commands::cut, false);
+    session.getGui().enableCommand(commands::paste, true);
+    EXPECT_THAT(check.findDifference(),
+                Optional(HasSubstr("Paste is enabled while the clipboard holds no project entities")));
 }
 
 } // namespace

@@ -4,10 +4,14 @@ namespace aec
 {
 class IAttributeValueFormatter;
 class IClipboard;
+class IClipboardListenerRegistry;
 class IGeneralPurposeDialogService;
+class IGui;
 class IImportFileDialog;
+class IProjectExplorerGuiProvider;
 class IProjectSessionManager;
 class IPropertyContainerEditor;
+class IStatusService;
 class IProxyAppGui;
 class ITitleBlockIO;
 class ITranslation;
@@ -21,9 +25,11 @@ namespace aec::host
 {
 
 // The application-wide services that a session hands the explorer library when it starts: the
-// nine that the entity controller factory takes, in its order, and the formatter that names
-// subgroups. The view of each project gets the translation, session manager and clipboard of the
-// same set, so that the library meets one set of services wherever it looks.
+// nine that the entity controller factory takes, in its order, the formatter that names
+// subgroups, the provider of the panel that the views are shown in, and what each view is given
+// after it is made: the main GUI, the status line and the clipboard's listener registry. The view
+// of each project gets the translation, session manager and clipboard of the same set, so that
+// the library meets one set of services wherever it looks.
 struct ApplicationServiceSet
 {
     IClipboard& clipboard;
@@ -36,6 +42,10 @@ struct ApplicationServiceSet
     const ITitleBlockIO& titleBlockIO;
     serialization::IProjectEntityPasteDataSessionSerializer& pasteDataSerializer;
     const IAttributeValueFormatter& formatter;
+    const IProjectExplorerGuiProvider& guiProvider;
+    IGui& gui;
+    IStatusService& statusService;
+    IClipboardListenerRegistry& clipboardListenerRegistry;
 };
 
 } // namespace aec::host

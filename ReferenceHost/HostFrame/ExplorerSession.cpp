@@ -48,11 +48,20 @@ CExplorerSession::CExplorerSession(std::optional<std::uint64_t> uuidSeed, IServi
         registerSortButtons();
 
         CHostServices& host = *hostServices_;
-        const ApplicationServiceSet hostSet{host.getClipboard(),           host.getProxyAppGui(),
-                                            host.getTranslation(),         host.getSessionManager(),
-                                            host.getImportFileDialog(),    host.getPropertyEditor(),
-                                            host.getDialogService(),       host.getTableImporter(),
-                                            host.getPasteDataSerializer(), host.getAttributeValueFormatter()};
+        const ApplicationServiceSet hostSet{host.getClipboard(),
+                                            host.getProxyAppGui(),
+                                            host.getTranslation(),
+                                            host.getSessionManager(),
+                                            host.getImportFileDialog(),
+                                            host.getPropertyEditor(),
+                                            host.getDialogService(),
+                                            host.getTableImporter(),
+                                            host.getPasteDataSerializer(),
+                                            host.getAttributeValueFormatter(),
+                                            *guiProvider_,
+                                            *gui_,
+                                            *statusService_,
+                                            host.getClipboard()};
         libraryServices_ = std::make_unique<ApplicationServiceSet>(
             serviceDecorator_ != nullptr ? serviceDecorator_->decorateApplicationServices(hostSet) : hostSet);
 
@@ -63,8 +72,8 @@ CExplorerSession::CExplorerSession(std::optional<std::uint64_t> uuidSeed, IServi
         explorerFactory_ = project_explorer::createProjectExplorerFactory(*groupingModelFactory_,
                                                                           *groupMaker_, *entityProvider_);
         eventHandlerFactory_ = project_explorer::createProjectExplorerGuiEventHandlerFactory();
-        viewCreator_ =
-            project_explorer::createViewCreator(*explorerFactory_, *guiProvider_, *eventHandlerFactory_);
+        viewCreator_ = project_explorer::createViewCreator(*explorerFactory_, services.guiProvider,
+                                                           *eventHandlerFactory_);
         controllerFactory_ = project_explorer::createProjectExplorerEntityControllerFactory(
             services.clipboard, services.proxyAppGui, services.translation, services.sessionManager,
             services.importFileDialog, services.propertyEditor, services.dialogService, services.titleBlockIO,

@@ -74,11 +74,17 @@ void CProjectBinding::bind()
     projectServices_ = std::make_unique<model::CProjectServices>(*project_);
     hostContext_ = std::make_unique<CHostContext>(*project_, services.getPropertyCatalog());
     model::CProjectServices& own = *projectServices_;
-    const ProjectServiceSet ownSet{own.getClassifier(),      own.getEntitySource(),
-                                   own.getCopyDataBuilder(), own.getSheetHandler(),
-                                   own.getTableHandler(),    own.getAssemblyHandler(),
-                                   own.getMaterialHandler(), own.getOperationGuardSource(),
-                                   own.getPasteHandler(),    project_->getPreferences()};
+    const ProjectServiceSet ownSet{own.getClassifier(),
+                                   own.getEntitySource(),
+                                   own.getCopyDataBuilder(),
+                                   own.getSheetHandler(),
+                                   own.getTableHandler(),
+                                   own.getAssemblyHandler(),
+                                   own.getMaterialHandler(),
+                                   own.getOperationGuardSource(),
+                                   own.getPasteHandler(),
+                                   project_->getPreferences(),
+                                   *hostContext_};
     const ProjectServiceSet project = application_.serviceDecorator != nullptr
                                           ? application_.serviceDecorator->decorateProjectServices(ownSet)
                                           : ownSet;
@@ -87,12 +93,12 @@ void CProjectBinding::bind()
         project.classifier, project.entitySource, project.copyDataBuilder, project.sheetHandler,
         project.tableHandler, project.assemblyHandler, project.materialHandler, project.operationGuardSource,
         project.pasteHandler);
-    view_ = application_.viewCreator.createView(application_.panelOwner, *hostContext_, project.preferences,
-                                                *controller_, library.translation, library.sessionManager,
-                                                project_->getObjectEvents(), library.clipboard);
-    view_->setStatusService(&application_.statusService);
-    view_->setClipboardListenerRegistry(&services.getClipboard());
-    view_->setGui(&application_.gui);
+    view_ = application_.viewCreator.createView(
+        application_.panelOwner, project.hostContext, project.preferences, *controller_, library.translation,
+        library.sessionManager, project_->getObjectEvents(), library.clipboard);
+    view_->setStatusService(&library.statusService);
+    view_->setClipboardListenerRegistry(&library.clipboardListenerRegistry);
+    view_->setGui(&library.gui);
     showGroupingOnButtons();
     activity_ = view_->createActivity();
 }

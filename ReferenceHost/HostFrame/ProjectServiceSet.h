@@ -6,6 +6,7 @@ class ICopyDataBuilder;
 class IEntityClassifier;
 class IEntitySource;
 class IEntityTypeHandler;
+class IHostContext;
 class IOperationGuardSource;
 class IPasteHandler;
 class IProjectPreferences;
@@ -16,7 +17,8 @@ namespace aec::host
 
 // The services of one open project that a session hands the explorer library: the nine that the
 // entity controller is made from, in the factory's order (the type handlers of sheets, tables,
-// assemblies and materials), and the preferences that keep the explorer's state.
+// assemblies and materials), the preferences that keep the explorer's state, and the host context
+// that the explorer is made in.
 struct ProjectServiceSet
 {
     const IEntityClassifier& classifier;
@@ -29,6 +31,7 @@ struct ProjectServiceSet
     const IOperationGuardSource& operationGuardSource;
     IPasteHandler& pasteHandler;
     IProjectPreferences& preferences;
+    IHostContext& hostContext;
 };
 
 } // namespace aec::host

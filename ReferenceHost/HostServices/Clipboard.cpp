@@ -1,5 +1,7 @@
 #include "HostServices/Clipboard.h"
 
+#include <utility>
+
 namespace aec::host
 {
 
@@ -44,8 +46,30 @@ void CClipboard::replaceContent(std::optional<Content> content)
 {
     if (content_ == content)
         return;
-    content_ = std::move(content);
-    listeners_.notify([this](IClipboardListener& listener) { listener.clipboardChanged(*this); });
+    std::optional<Content> previous = std::exchange(content_, std::move(content));
+    try
+    {
+        listeners_.notify([this](IClipboardListener& listener) { listener.clipboardChanged(*this); });
+    }
+    catch (...)
+    {
+        // The listeners told before the failing one follow the content back. Every listener is
+        // told, so one that fails again does not stop the others; the first failure is the one
+        // the caller hears of.
+        content_ = std::move(previous);
+        listeners_.notify(
+            [this](IClipboardListener& listener)
+            {
+                try
+                {
+                    listener.clipboardChanged(*this);
+                }
+                catch (...)
+                {
+                }
+            });
+        throw;
+    }
 }
 
 } // namespace aec::host

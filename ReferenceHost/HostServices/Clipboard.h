@@ -15,7 +15,9 @@ namespace aec::host
 // The host's in-process clipboard. Like a desktop clipboard it holds one piece of content at a
 // time, under one format: setting data under a format replaces whatever was there under any
 // format. Listeners hear of every change of the content, and of the content at once when they
-// register; setting the same data again changes nothing and tells no one.
+// register; setting the same data again changes nothing and tells no one. A listener that fails to
+// follow a change fails the change: the clipboard takes its content back, tells the listeners so,
+// and passes the failure on.
 class HOSTSERVICES_API CClipboard final : public IClipboard, public IClipboardListenerRegistry
 {
 public:

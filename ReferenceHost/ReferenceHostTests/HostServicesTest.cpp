@@ -8,6 +8,7 @@
 #include "aec/ClipboardFormats.h"
 #include "aec/TextIds.h"
 
+#include "Common/Exception.h"
 #include "Common/UUID.h"
 
 #include <gtest/gtest.h>
@@ -55,6 +56,43 @@ TEST(ClipboardTest, ListenersHearOfEveryChangeAndOfTheContentWhenTheyRegister)
     clipboard.removeListener(recorder);
     clipboard.setData(clipboardFormatProjectEntities, L"unheard");
     EXPECT_EQ(recorder.heard.size(), 4u);
+}
+
+// Fails every change it hears of while armed.
+class CFailingListener final : public IClipboardListener
+{
+public:
+    void clipboardChanged(const IClipboard& /*clipboard*/) override
+    {
+        if (armed)
+            throw common::EException("The listener cannot follow the clipboard");
+    }
+
+    bool armed = false;
+};
+
+TEST(ClipboardTest, AChangeThatAListenerCannotFollowIsTakenBack)
+{
+    CClipboard clipboard;
+    clipboard.setData(clipboardFormatProjectEntities, L"first");
+    CContentRecorder before;
+    CFailingListener failing;
+    CContentRecorder after;
+    clipboard.addListener(before);
+    clipboard.addListener(failing);
+    clipboard.addListener(after);
+
+    failing.armed = true;
+    EXPECT_THROW(clipboard.setData(clipboardFormatProjectEntities, L"second"), common::EException);
+    EXPECT_EQ(clipboard.getData(clipboardFormatProjectEntities), L"first");
+    // The listener told of the change hears it taken back; the one behind the failing listener,
+    // which fails again, hears the content as well.
+    EXPECT_EQ(before.heard, (std::vector<std::optional<std::wstring>>{L"first", L"second", L"first"}));
+    EXPECT_EQ(after.heard, (std::vector<std::optional<std::wstring>>{L"first", L"first"}));
+
+    clipboard.removeListener(failing);
+    clipboard.removeListener(before);
+    clipboard.removeListener(after);
 }
 
 TEST(TranslationTest, TextsTakeTheirArgumentAndMissingOnesShowTheirNumber)
