@@ -1,5 +1,6 @@
 #include "AecApp/GroupingButtonHandler.h"
 
+#include "AecApp/HostRegistrations.h"
 #include "Common/Check.h"
 #include "aec/ProjectExplorerGroupingModel.h"
 #include "aec/TextIds.h"
@@ -30,15 +31,18 @@ CGroupingButtonHandler::CGroupingButtonHandler(std::uint32_t panelId, std::uint3
     modelConnection_ = model_.changedSignal().connect([this] { refresh(); });
     COMMON_PRECONDITION(gui_ != nullptr);
     refresh();
-    gui_->registerButtonCallback(panelId_, groupCriterionButtonId_, groupCriterionHandler());
-    gui_->registerButtonCallback(panelId_, sortOrderButtonId_, sortOrderHandler());
+    buttonCallbacks_.add(
+        registerButtonCallback(*gui_, panelId_, groupCriterionButtonId_, groupCriterionHandler()));
+    buttonCallbacks_.add(registerButtonCallback(*gui_, panelId_, sortOrderButtonId_, sortOrderHandler()));
 }
 
-CGroupingButtonHandler::~CGroupingButtonHandler()
+// The members undo the rest: the connection first, then the callbacks, the sort order's first.
+CGroupingButtonHandler::~CGroupingButtonHandler() = default;
+
+void CGroupingButtonHandler::release()
 {
     modelConnection_.disconnect();
-    gui_->unregisterButtonCallback(panelId_, groupCriterionButtonId_);
-    gui_->unregisterButtonCallback(panelId_, sortOrderButtonId_);
+    buttonCallbacks_.releaseAll();
 }
 
 void CGroupingButtonHandler::refresh()

@@ -1,5 +1,6 @@
 #include "AecApp/PasteController.h"
 
+#include "AecApp/HostRegistrations.h"
 #include "aec/Clipboard.h"
 #include "aec/Commands.h"
 #include "aec/Gui.h"
@@ -7,17 +8,19 @@
 namespace aec
 {
 
-CPasteController::CPasteController(IClipboardListenerRegistry& registry, IGui& gui,
+CPasteController::CPasteController(IClipboardListenerRegistry* registry, IGui& gui,
                                    std::uint32_t clipboardFormat)
-    : registry_(registry), gui_(gui), clipboardFormat_(clipboardFormat)
+    : registry_(registry), gui_(gui), clipboardFormat_(clipboardFormat),
+      pasteHandler_(registerCommandHandler(gui_, commands::paste, 0, [this] { pasteRequested_(); }))
 {
-    gui_.addCommandHandler(commands::paste, 0, [this] { pasteRequested_(); });
 }
 
-CPasteController::~CPasteController()
+// The handle takes the handler back, so that the GUI does not call into a destroyed controller.
+CPasteController::~CPasteController() = default;
+
+void CPasteController::release()
 {
-    // The GUI would otherwise call into a destroyed controller.
-    gui_.removeCommandHandler(commands::paste, 0);
+    pasteHandler_.release();
 }
 
 void CPasteController::clipboardChanged(const IClipboard& clipboard)

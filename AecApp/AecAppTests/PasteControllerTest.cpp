@@ -42,7 +42,7 @@ TEST(PasteControllerTest, EnablesPasteExactlyWhileTheClipboardHoldsItsFormat)
 {
     RecordingGui gui;
     UntouchedRegistry registry;
-    aec::CPasteController controller(registry, gui, entitiesFormat);
+    aec::CPasteController controller(&registry, gui, entitiesFormat);
     FormatsClipboard clipboard;
 
     clipboard.setData(entitiesFormat, L"");
@@ -61,8 +61,8 @@ TEST(PasteControllerTest, PasteCommandRequestsAPasteWhileTheControllerLives)
     UntouchedRegistry registry;
     int requests = 0;
     {
-        aec::CPasteController controller(registry, gui, entitiesFormat);
-        EXPECT_EQ(&controller.getRegistry(), &registry);
+        aec::CPasteController controller(&registry, gui, entitiesFormat);
+        EXPECT_EQ(controller.getRegistry(), &registry);
         const boost::signals2::scoped_connection connection =
             controller.pasteRequestedSignal().connect([&requests] { ++requests; });
         gui.runCommand(pasteCommand);

@@ -9,8 +9,11 @@ namespace project_explorer
 {
 
 CProjectExplorerContextMenuStrategyResolver::CProjectExplorerContextMenuStrategyResolver(
-    aec::IProjectExplorerEntityController& entityController, const aec::IProjectExplorerEntitySelection& selection,
-    const aec::IProjectSessionManager& sessionManager, aec::IGui& gui)
+    aec::IProjectExplorerEntityController& entityController,
+    const aec::IProjectExplorerEntitySelection& selection, const aec::IProjectSessionManager& sessionManager,
+    aec::IStatusService* /*statusService*/, aec::IClipboardListenerRegistry* /*clipboardListenerRegistry*/,
+    aec::ObjectEventSource& /*objectEvents*/, const aec::IClipboard& /*clipboard*/,
+    aec::IHostContext& /*hostContext*/, aec::IGui& gui)
     : entityController_(entityController), selection_(selection), sessionManager_(sessionManager), gui_(gui)
 {
 }

@@ -1,10 +1,15 @@
 #pragma once
 
 #include "aec/ContextMenuStrategyResolver.h"
+#include "aec/ProjectExplorerViewCreator.h"
 
 namespace aec
 {
+class IClipboard;
+class IClipboardListenerRegistry;
 class IGui;
+class IHostContext;
+class IStatusService;
 class IProjectExplorerEntityController;
 class IProjectExplorerEntitySelection;
 class IProjectSessionManager;
@@ -21,11 +26,20 @@ public:
     // The strategy kind of menus that the resolver's own providers make up in full.
     static constexpr int strategyKind = 2;
 
-    // All must outlive the resolver and the strategies it makes; the GUI runs the standard items'
-    // commands.
+    // Made from the services that the activity holds for its menus, and the GUI, which runs the
+    // standard items' commands. The explorer's items draw on the session's current project; the
+    // status line, the clipboard and its listeners, the object events and the host context are
+    // taken so that every strategy of the activity is made from the same services, but the
+    // explorer's own items need none of them. Every reference that is kept must outlive the
+    // resolver and the strategies it makes.
     CProjectExplorerContextMenuStrategyResolver(aec::IProjectExplorerEntityController& entityController,
                                                 const aec::IProjectExplorerEntitySelection& selection,
-                                                const aec::IProjectSessionManager& sessionManager, aec::IGui& gui);
+                                                const aec::IProjectSessionManager& sessionManager,
+                                                aec::IStatusService* statusService,
+                                                aec::IClipboardListenerRegistry* clipboardListenerRegistry,
+                                                aec::ObjectEventSource& objectEvents,
+                                                const aec::IClipboard& clipboard,
+                                                aec::IHostContext& hostContext, aec::IGui& gui);
     ~CProjectExplorerContextMenuStrategyResolver() override;
 
     int getStrategyKind() const override;

@@ -1,10 +1,15 @@
 #include "ProjectExplorerLib/ProjectExplorerCopyCutController.h"
 
+#include "AecApp/HostRegistrations.h"
+#include "AecApp/Teardown.h"
 #include "Common/Check.h"
 #include "aec/Commands.h"
 #include "aec/Gui.h"
 #include "aec/ProjectExplorerEntityController.h"
 #include "aec/ProjectExplorerEntitySelection.h"
+
+#include <cstddef>
+#include <utility>
 
 namespace project_explorer
 {
@@ -13,6 +18,9 @@ namespace
 {
 // Copy and cut have a single variant.
 constexpr int commandVariant = 0;
+// Where each command's handler sits in the list of handlers.
+constexpr std::size_t copyHandler = 0;
+constexpr std::size_t cutHandler = 1;
 } // namespace
 
 CProjectExplorerCopyCutController::CProjectExplorerCopyCutController(
@@ -20,8 +28,10 @@ CProjectExplorerCopyCutController::CProjectExplorerCopyCutController(
     aec::IProjectExplorerEntitySelection& selection)
     : gui_(gui), entityController_(entityController), selection_(selection)
 {
-    gui_.addCommandHandler(aec::commands::copy, commandVariant, [this] { runCopy(); });
-    gui_.addCommandHandler(aec::commands::cut, commandVariant, [this] { runCut(); });
+    commandHandlers_.add(
+        aec::registerCommandHandler(gui_, aec::commands::copy, commandVariant, [this] { runCopy(); }));
+    commandHandlers_.add(
+        aec::registerCommandHandler(gui_, aec::commands::cut, commandVariant, [this] { runCut(); }));
     selectionConnection_ = selection_.selectionChangedSignal().connect(
         [this](const aec::EntityIdSet&, const aec::EntityIdSet&) { selectionChanged(); });
     // The panel may hold a selection from before this controller was made; the commands follow
@@ -31,14 +41,31 @@ CProjectExplorerCopyCutController::CProjectExplorerCopyCutController(
 
 CProjectExplorerCopyCutController::~CProjectExplorerCopyCutController()
 {
-    if (objectEvents_ != nullptr)
-        objectEvents_->removeObserver(*this);
+    try
+    {
+        release();
+    }
+    catch (...)
+    {
+        // The owner that wants to report a failure calls release() first; a handler that the GUI
+        // refused to give back is asked for again as the handler list goes.
+    }
+}
+
+void CProjectExplorerCopyCutController::release()
+{
+    if (std::exchange(released_, true))
+        return;
+    projectChanges_.reset();
     selectionConnection_.disconnect();
     active_ = false;
-    gui_.enableCommand(aec::commands::copy, false);
-    gui_.enableCommand(aec::commands::cut, false);
-    gui_.removeCommandHandler(aec::commands::copy, commandVariant);
-    gui_.removeCommandHandler(aec::commands::cut, commandVariant);
+    aec::CTeardown teardown;
+    teardown.run([this] { gui_.enableCommand(aec::commands::copy, false); });
+    teardown.run([this] { gui_.enableCommand(aec::commands::cut, false); });
+    teardown.run([this] { commandHandlers_.release(copyHandler); });
+    teardown.run([this] { commandHandlers_.release(cutHandler); });
+    selected_.clear();
+    teardown.finish();
 }
 
 void CProjectExplorerCopyCutController::setActive(bool active)
@@ -49,9 +76,7 @@ void CProjectExplorerCopyCutController::setActive(bool active)
 
 void CProjectExplorerCopyCutController::followProjectChanges(aec::ObjectEventSource& objectEvents)
 {
-    COMMON_PRECONDITION(objectEvents_ == nullptr);
-    objectEvents_ = &objectEvents;
-    objectEvents_->addObserver(*this);
+    projectChanges_.observe(objectEvents);
 }
 
 void CProjectExplorerCopyCutController::selectionChanged()

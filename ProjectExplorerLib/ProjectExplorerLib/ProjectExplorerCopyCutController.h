@@ -1,5 +1,7 @@
 #pragma once
 
+#include "AecApp/RegistrationList.h"
+#include "Common/ScopedObservation.h"
 #include "aec/EntityId.h"
 #include "aec/ObjectEvents.h"
 #include "aec/ProjectExplorerViewCreator.h"
@@ -29,10 +31,11 @@ class CProjectExplorerCopyCutController : private aec::IObjectEvents
 {
 public:
     // Registers the two command handlers and follows the selection from its current content on.
-    // The three must outlive the controller.
+    // The three must outlive the controller. Should a call of the GUI fail, the handlers registered
+    // so far are taken back.
     CProjectExplorerCopyCutController(aec::IGui& gui, aec::IProjectExplorerEntityController& entityController,
                                       aec::IProjectExplorerEntitySelection& selection);
-    // Disables both commands and unregisters their handlers.
+    // Does what release() does, if not done yet, swallowing a failing GUI.
     ~CProjectExplorerCopyCutController() override;
     CProjectExplorerCopyCutController(const CProjectExplorerCopyCutController&) = delete;
     CProjectExplorerCopyCutController& operator=(const CProjectExplorerCopyCutController&) = delete;
@@ -43,6 +46,11 @@ public:
     // Follows the changes of the project the explorer shows, until the controller's end; the source
     // must outlive the controller. Called once.
     void followProjectChanges(aec::ObjectEventSource& objectEvents);
+
+    // Stops following the selection and the project, disables both commands and unregisters their
+    // handlers, copy's first; once. Every step is taken, then the first failure passes on, so that
+    // an owner can report it.
+    void release();
 
 private:
     void onProjectOpened() override {}
@@ -59,13 +67,16 @@ private:
     aec::IGui& gui_;
     aec::IProjectExplorerEntityController& entityController_;
     aec::IProjectExplorerEntitySelection& selection_;
-    aec::ObjectEventSource* objectEvents_ = nullptr;
     aec::EntityIdList selected_;
     bool active_ = true;
+    bool released_ = false;
     // Whether the GUI may show another availability than the controller's: from the start of an
     // update of the two commands until both calls have succeeded.
     bool availabilityStale_ = false;
+    // The handlers of copy and cut, in this order.
+    aec::CRegistrationList commandHandlers_;
     boost::signals2::scoped_connection selectionConnection_;
+    common::CScopedObservation<aec::IObjectEvents> projectChanges_{*this};
 };
 
 } // namespace project_explorer

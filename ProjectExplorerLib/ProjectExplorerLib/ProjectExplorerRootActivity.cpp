@@ -1,9 +1,11 @@
 #include "ProjectExplorerLib/ProjectExplorerRootActivity.h"
 
-#include "ProjectExplorerLib/ProjectExplorerContextMenuStrategyResolver.h"
-
 #include "AecApp/ContextMenuProvider.h"
-
+#include "AecApp/HostRegistrations.h"
+#include "AecApp/Teardown.h"
+#include "AecApp/TeardownFailureReport.h"
+#include "Common/Check.h"
+#include "ProjectExplorerLib/ProjectExplorerContextMenuStrategyResolver.h"
 #include "aec/ClipboardFormats.h"
 #include "aec/ClipboardListener.h"
 #include "aec/Commands.h"
@@ -11,11 +13,9 @@
 #include "aec/ProjectExplorerEntityController.h"
 #include "aec/ProjectExplorerEntitySelection.h"
 
-#include "Common/Check.h"
-
-#include <boost/bind/bind.hpp>
-
 #include <array>
+#include <boost/bind/bind.hpp>
+#include <cstddef>
 #include <utility>
 
 namespace project_explorer
@@ -29,6 +29,18 @@ constexpr int commandVariant = 0;
 
 // The command whose claim is the one state that deactivation takes back.
 constexpr int releasedClaimCommand = 83;
+
+// Where each binding of an activation sits in the activation's registrations: the four command
+// handlers in the order bound, the context-menu handler, then the clipboard listener, if any.
+enum ActivationEntry : std::size_t
+{
+    importTableHandler,
+    editPropertiesHandler,
+    deleteHandler,
+    swallowedHandler,
+    contextMenuHandler,
+    clipboardListener,
+};
 
 // One of the two boolean states of a host command, as the activity sets it on activation.
 struct CommandState
@@ -76,9 +88,9 @@ CProjectExplorerRootActivity::CProjectExplorerRootActivity(
     const aec::IProjectSessionManager& sessionManager, aec::ObjectEventSource& objectEvents,
     const aec::IClipboard& clipboard, aec::IHostContext& hostContext)
     : contextMenuProvider_(contextMenuProvider), gui_(gui), statusService_(statusService),
-      clipboardListenerRegistry_(requireRegistry(clipboardListenerRegistry)),
-      entityController_(entityController), selection_(selection), sessionManager_(sessionManager),
-      objectEvents_(objectEvents), clipboard_(clipboard), hostContext_(hostContext),
+      clipboardListenerRegistry_(clipboardListenerRegistry), entityController_(entityController),
+      selection_(selection), sessionManager_(sessionManager), objectEvents_(objectEvents),
+      clipboard_(clipboard), hostContext_(hostContext),
       pasteController_(clipboardListenerRegistry_, gui_, aec::clipboardFormatProjectEntities),
       copyCutController_(gui_, entityController_, selection_)
 {
@@ -92,7 +104,32 @@ CProjectExplorerRootActivity::CProjectExplorerRootActivity(
 
 CProjectExplorerRootActivity::~CProjectExplorerRootActivity()
 {
-    deactivate();
+    // Each part is let go of even when one before it fails: a binding left behind would call into
+    // this activity after its end.
+    try
+    {
+        deactivate();
+    }
+    catch (...)
+    {
+        aec::reportTeardownFailure(statusService_);
+    }
+    try
+    {
+        copyCutController_.release();
+    }
+    catch (...)
+    {
+        aec::reportTeardownFailure(statusService_);
+    }
+    try
+    {
+        pasteController_.release();
+    }
+    catch (...)
+    {
+        aec::reportTeardownFailure(statusService_);
+    }
 }
 
 void CProjectExplorerRootActivity::forwardToDrawingTool()
@@ -106,7 +143,20 @@ void CProjectExplorerRootActivity::activate()
 {
     if (active_)
         return;
+    try
+    {
+        bindActivation();
+    }
+    catch (...)
+    {
+        activation_.clear();
+        throw;
+    }
+    active_ = true;
+}
 
+void CProjectExplorerRootActivity::bindActivation()
+{
     using Handler = void (CProjectExplorerRootActivity::*)();
     static const std::array<std::pair<int, Handler>, 4> commandHandlers{{
         {aec::commands::importTable, &CProjectExplorerRootActivity::importTable},
@@ -115,7 +165,8 @@ void CProjectExplorerRootActivity::activate()
         {aec::commands::swallowed, &CProjectExplorerRootActivity::swallowCommand},
     }};
     for (const auto& [command, handler] : commandHandlers)
-        gui_.addCommandHandler(command, commandVariant, boost::bind(handler, this));
+        activation_.add(
+            aec::registerCommandHandler(gui_, command, commandVariant, boost::bind(handler, this)));
 
     for (const CommandState& state : activeCommandStates())
     {
@@ -125,35 +176,41 @@ void CProjectExplorerRootActivity::activate()
             gui_.setCommandClaimed(state.command, state.value);
     }
 
-    gui_.setContextMenuHandler([this](const aec::MbCartPoint& point) { showContextMenu(point); });
-    clipboardListenerRegistry_.addListener(pasteController_);
-    active_ = true;
+    activation_.add(aec::registerContextMenuHandler(gui_, [this](const aec::MbCartPoint& point)
+                                                    { showContextMenu(point); }));
+    // Without a registry the host does not tell of clipboard changes; paste then keeps the
+    // availability the host gives it.
+    if (clipboardListenerRegistry_ != nullptr)
+        activation_.add(aec::registerClipboardListener(*clipboardListenerRegistry_, pasteController_));
 }
 
 void CProjectExplorerRootActivity::deactivate()
 {
     if (!active_)
         return;
-
-    clipboardListenerRegistry_.removeListener(pasteController_);
-    for (const int command : {aec::commands::importTable, aec::commands::deleteSelection,
-                              aec::commands::swallowed, aec::commands::editProperties})
-        gui_.removeCommandHandler(command, commandVariant);
-    gui_.setCommandClaimed(releasedClaimCommand, false);
-    gui_.clearContextMenuHandler();
     active_ = false;
+
+    aec::CTeardown teardown;
+    const auto release = [this, &teardown](ActivationEntry entry)
+    {
+        teardown.run([this, entry] { activation_.release(entry); });
+    };
+    if (clipboardListenerRegistry_ != nullptr)
+        release(clipboardListener);
+    release(importTableHandler);
+    release(deleteHandler);
+    release(swallowedHandler);
+    release(editPropertiesHandler);
+    teardown.run([this] { gui_.setCommandClaimed(releasedClaimCommand, false); });
+    release(contextMenuHandler);
+    // A binding that the host refused to give back is asked for again here.
+    activation_.clear();
+    teardown.finish();
 }
 
 bool CProjectExplorerRootActivity::isModal() const
 {
     return false;
-}
-
-aec::IClipboardListenerRegistry&
-CProjectExplorerRootActivity::requireRegistry(aec::IClipboardListenerRegistry* registry)
-{
-    COMMON_PRECONDITION(registry != nullptr);
-    return *registry;
 }
 
 aec::EntityIdList CProjectExplorerRootActivity::selectedEntities() const
@@ -195,7 +252,8 @@ void CProjectExplorerRootActivity::paste()
 void CProjectExplorerRootActivity::showContextMenu(const aec::MbCartPoint& point)
 {
     contextMenuProvider_.setStrategyResolver(std::make_shared<CProjectExplorerContextMenuStrategyResolver>(
-        entityController_, selection_, sessionManager_, gui_));
+        entityController_, selection_, sessionManager_, statusService_, clipboardListenerRegistry_,
+        objectEvents_, clipboard_, hostContext_, gui_));
     contextMenuProvider_.showMenu(point);
 }
 

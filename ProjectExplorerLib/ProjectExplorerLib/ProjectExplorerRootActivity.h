@@ -1,9 +1,8 @@
 #pragma once
 
-#include "ProjectExplorerLib/ProjectExplorerCopyCutController.h"
-
 #include "AecApp/PasteController.h"
-
+#include "AecApp/RegistrationList.h"
+#include "ProjectExplorerLib/ProjectExplorerCopyCutController.h"
 #include "aec/Activity.h"
 #include "aec/EntityId.h"
 #include "aec/MbCartPoint.h"
@@ -27,11 +26,16 @@ namespace project_explorer
 // The host activity of the explorer panel: while it is active, the host's delete, edit-properties,
 // import and paste commands and the context menu act on the explorer's selection instead of on the
 // drawing. It is active from its construction on.
+//
+// Every binding with the host is held by a handle: an activation that fails part-way takes back
+// what it had bound, and the host never keeps a handler of a destroyed activity. The destructor
+// finishes its teardown whatever the host does, and shows a failure on the status line.
 class CProjectExplorerRootActivity final : public aec::CUserInputActor<aec::IActivity>
 {
 public:
-    // `clipboardListenerRegistry` must not be null: the activity's paste controller follows the
-    // clipboard there. Every reference and pointer must outlive the activity.
+    // The activity's paste controller follows the clipboard through `clipboardListenerRegistry`;
+    // without one, paste availability is not followed. Failures of its own teardown go to
+    // `statusService`, when set. Every reference and pointer must outlive the activity.
     CProjectExplorerRootActivity(aec::CContextMenuProvider& contextMenuProvider, aec::IGui& gui,
                                  aec::IStatusService* statusService,
                                  aec::IClipboardListenerRegistry* clipboardListenerRegistry,
@@ -48,15 +52,17 @@ public:
     // The explorer hands nothing to drawing tools: always throws common::ENotImplemented.
     void forwardToDrawingTool() override;
     void onIdle() override;
-    // Binds the commands, sets the command states and the context menu; nothing when active.
+    // Binds the commands, sets the command states and the context menu; nothing when active. A
+    // failure takes back what was bound and leaves the activity inactive.
     void activate() override;
     // Releases what activate bound; of the command states it resets only the claim of command 83,
-    // the next activity of the host sets its own. Nothing when inactive.
+    // the next activity of the host sets its own. Nothing when inactive. Every step is taken even
+    // when one fails, the activity ends inactive, and then the first failure passes on.
     void deactivate() override;
     bool isModal() const override;
 
 private:
-    static aec::IClipboardListenerRegistry& requireRegistry(aec::IClipboardListenerRegistry* registry);
+    void bindActivation();
     aec::EntityIdList selectedEntities() const;
     void importTable();
     void editSelectedProperties();
@@ -68,17 +74,19 @@ private:
     aec::CContextMenuProvider& contextMenuProvider_;
     aec::IGui& gui_;
     aec::IStatusService* statusService_;
-    aec::IClipboardListenerRegistry& clipboardListenerRegistry_;
+    aec::IClipboardListenerRegistry* clipboardListenerRegistry_;
     aec::IProjectExplorerEntityController& entityController_;
     aec::IProjectExplorerEntitySelection& selection_;
-    // The view's further host services, kept for the context-menu strategies of this activity;
-    // the explorer's strategy resolver draws on the session manager of them.
+    // The view's further host services and the host context, for the context-menu strategies of
+    // this activity; the object events also tell the copy/cut controller of rollbacks.
     const aec::IProjectSessionManager& sessionManager_;
     aec::ObjectEventSource& objectEvents_;
     const aec::IClipboard& clipboard_;
     aec::IHostContext& hostContext_;
     aec::CPasteController pasteController_;
     CProjectExplorerCopyCutController copyCutController_;
+    // What an activation bound, in the order bound; empty while inactive.
+    aec::CRegistrationList activation_;
     bool active_ = false;
 };
 

@@ -1,10 +1,11 @@
 #include "ProjectExplorerLib/ProjectExplorerView.h"
 
-#include "ProjectExplorerLib/ProjectExplorerRootActivity.h"
-
 #include "AecApp/ContextMenuProvider.h"
 #include "AecApp/GroupingButtonHandler.h"
-
+#include "AecApp/HostRegistrations.h"
+#include "AecApp/TeardownFailureReport.h"
+#include "Common/Check.h"
+#include "ProjectExplorerLib/ProjectExplorerRootActivity.h"
 #include "aec/Activity.h"
 #include "aec/Gui.h"
 #include "aec/ProjectExplorer.h"
@@ -12,10 +13,10 @@
 #include "aec/ProjectExplorerGroupInfo.h"
 #include "aec/ProjectExplorerPanel.h"
 
-#include "Common/Check.h"
-
+#include <cstddef>
 #include <cstdint>
 #include <map>
+#include <utility>
 
 namespace project_explorer
 {
@@ -66,23 +67,32 @@ CProjectExplorerView::CProjectExplorerView(std::unique_ptr<aec::IProjectExplorer
       clipboard_(clipboard)
 {
     COMMON_PRECONDITION(explorer_ != nullptr);
-    objectEvents_.addObserver(*this);
+    objectEventsObservation_.observe(objectEvents_);
     connectUserInputSource(panel_);
 }
 
 CProjectExplorerView::~CProjectExplorerView()
 {
+    // Each step is taken even when one before it fails: a binding left behind would call into
+    // this view after its end.
     if (gui_ != nullptr)
     {
-        gui_->releaseDocumentActivated();
-        gui_->releaseDocumentClosing();
+        for (const std::size_t notification : {0u, 1u})
+        {
+            try
+            {
+                documentNotifications_.release(notification);
+            }
+            catch (...)
+            {
+                aec::reportTeardownFailure(statusService_);
+            }
+        }
     }
-    objectEvents_.removeObserver(*this);
+    objectEventsObservation_.reset();
     // The handlers and the provider work on the explorer's grouping models and on the GUI, so they
     // go first, the handlers in the order they were made.
-    for (auto& handler : groupingButtonHandlers_)
-        handler.reset();
-    groupingButtonHandlers_.clear();
+    releaseGroupingButtonHandlers();
     contextMenuProvider_.reset();
     explorer_.reset();
 }
@@ -91,17 +101,25 @@ void CProjectExplorerView::setGui(aec::IGui* gui)
 {
     COMMON_PRECONDITION(gui_ == nullptr);
     COMMON_PRECONDITION(gui != nullptr);
-    gui_ = gui;
 
+    // Everything is made aside and kept only once all of it is there, so that a GUI that fails
+    // part-way gets back what it was given, and the view can be bound again.
+    //
     // The host tells every view when documents are switched and closed. The explorer shows one
     // project, that of its own document, and has nothing to do on either, but it must hold the
     // registrations like every view; the callbacks stay empty on purpose.
-    gui_->registerDocumentActivated([](unsigned long) {});
-    gui_->registerDocumentClosing([](unsigned long) {});
+    aec::CRegistrationList notifications;
+    notifications.add(aec::registerDocumentActivated(*gui, [](unsigned long) {}));
+    notifications.add(aec::registerDocumentClosing(*gui, [](unsigned long) {}));
 
-    createGroupingButtonHandlers();
-    contextMenuProvider_ = std::make_unique<aec::CContextMenuProvider>(gui_, translation_);
-    connectUserInputSource(*contextMenuProvider_);
+    auto handlers = createGroupingButtonHandlers(*gui);
+    auto provider = std::make_unique<aec::CContextMenuProvider>(gui, translation_);
+    connectUserInputSource(*provider);
+
+    gui_ = gui;
+    documentNotifications_ = std::move(notifications);
+    groupingButtonHandlers_ = std::move(handlers);
+    contextMenuProvider_ = std::move(provider);
 }
 
 void CProjectExplorerView::setStatusService(aec::IStatusService* statusService)
@@ -160,8 +178,10 @@ void CProjectExplorerView::onObjectsChanged(std::uint32_t code, std::uint32_t va
 
 void CProjectExplorerView::onProjectClosing() {}
 
-void CProjectExplorerView::createGroupingButtonHandlers()
+std::vector<std::unique_ptr<aec::CGroupingButtonHandler>>
+CProjectExplorerView::createGroupingButtonHandlers(aec::IGui& gui)
 {
+    std::vector<std::unique_ptr<aec::CGroupingButtonHandler>> handlers;
     const auto& table = groupingButtonTable();
     for (aec::IProjectExplorerGroup& group : explorer_->getGroups())
     {
@@ -169,10 +189,28 @@ void CProjectExplorerView::createGroupingButtonHandlers()
         if (row == table.end())
             continue;
         const GroupingButtonIds& buttons = row->second;
-        groupingButtonHandlers_.push_back(std::make_unique<aec::CGroupingButtonHandler>(
-            buttons.panel, buttons.groupCriterion, buttons.sortOrder, gui_, translation_,
+        handlers.push_back(std::make_unique<aec::CGroupingButtonHandler>(
+            buttons.panel, buttons.groupCriterion, buttons.sortOrder, &gui, translation_,
             group.getGroupingModel()));
     }
+    return handlers;
+}
+
+void CProjectExplorerView::releaseGroupingButtonHandlers() noexcept
+{
+    for (auto& handler : groupingButtonHandlers_)
+    {
+        try
+        {
+            handler->release();
+        }
+        catch (...)
+        {
+            aec::reportTeardownFailure(statusService_);
+        }
+        handler.reset();
+    }
+    groupingButtonHandlers_.clear();
 }
 
 } // namespace project_explorer

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "AecApp/RegistrationList.h"
+#include "Common/ScopedObservation.h"
 #include "aec/NonDrawingView.h"
 #include "aec/ObjectEvents.h"
 #include "aec/ProjectExplorerViewCreator.h"
@@ -23,6 +25,10 @@ namespace project_explorer
 // project's entity changes on to the panel, and, once the host hands it the main GUI, binds the
 // panel's grouping buttons to the groups and provides the context menus. While the panel has the
 // user's attention the host runs the root activity that the view makes.
+//
+// What the view binds with the host is held by handles: a setGui that fails part-way takes back
+// what it had bound and leaves the view as it was, to be bound again. The destructor finishes its
+// teardown whatever the host does, and shows a failure on the status line.
 class CProjectExplorerView final : public aec::CUserInputActor<aec::INonDrawingView>,
                                    public aec::IObjectEvents
 {
@@ -38,13 +44,14 @@ public:
     CProjectExplorerView(const CProjectExplorerView&) = delete;
     CProjectExplorerView& operator=(const CProjectExplorerView&) = delete;
 
-    // Once only, and never null; a refused call changes nothing. The GUI must outlive the view.
+    // Once only, and never null; a refused or failed call changes nothing. The GUI must outlive
+    // the view.
     void setGui(aec::IGui* gui) override;
     void setStatusService(aec::IStatusService* statusService) override;
     void setLayoutHint(int width, int height) override;
     void setClipboardListenerRegistry(aec::IClipboardListenerRegistry* registry) override;
-    // Only after setGui. The status service and the clipboard listener registry in force now are
-    // the activity's for its whole life.
+    // Only after setGui. The status service and the clipboard listener registry in force now, each
+    // of which may be unset, are the activity's for its whole life.
     std::unique_ptr<aec::IActivity> createActivity() override;
     void onViewActivated() override;
     void onViewDeactivated() override;
@@ -61,7 +68,8 @@ public:
     void onProjectClosing() override;
 
 private:
-    void createGroupingButtonHandlers();
+    std::vector<std::unique_ptr<aec::CGroupingButtonHandler>> createGroupingButtonHandlers(aec::IGui& gui);
+    void releaseGroupingButtonHandlers() noexcept;
 
     std::unique_ptr<aec::IProjectExplorer> explorer_;
     aec::IHostContext& hostContext_;
@@ -72,10 +80,13 @@ private:
     aec::ObjectEventSource& objectEvents_;
     const aec::IClipboard& clipboard_;
     aec::IGui* gui_ = nullptr;
+    // The two document notifications, in this order; registered by setGui.
+    aec::CRegistrationList documentNotifications_;
     aec::IStatusService* statusService_ = nullptr;
     aec::IClipboardListenerRegistry* clipboardListenerRegistry_ = nullptr;
     std::unique_ptr<aec::CContextMenuProvider> contextMenuProvider_;
     std::vector<std::unique_ptr<aec::CGroupingButtonHandler>> groupingButtonHandlers_;
+    common::CScopedObservation<aec::IObjectEvents> objectEventsObservation_{*this};
 };
 
 } // namespace project_explorer

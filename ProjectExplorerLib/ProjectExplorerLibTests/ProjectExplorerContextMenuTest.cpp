@@ -1,14 +1,11 @@
+#include "AecApp/SeparatorMenuItemProvider.h"
+#include "Common/UUID.h"
 #include "EntityOperationsFixture.h"
-
+#include "HostFrame/HostContext.h"
 #include "ProjectExplorerLib/ProjectExplorerContextMenuItemsProvider.h"
 #include "ProjectExplorerLib/ProjectExplorerContextMenuStrategyResolver.h"
 #include "ProjectExplorerLib/ProjectExplorerEntitySelection.h"
-
-#include "AecApp/SeparatorMenuItemProvider.h"
-
 #include "aec/TextIds.h"
-
-#include "Common/UUID.h"
 
 namespace project_explorer::test
 {
@@ -44,8 +41,10 @@ protected:
     }
 
     CProjectExplorerEntitySelection selection;
-    CProjectExplorerContextMenuStrategyResolver resolver{*controller, selection, host.getSessionManager(),
-                                                         gui};
+    aec::host::CHostContext hostContext{project, host.getPropertyCatalog()};
+    CProjectExplorerContextMenuStrategyResolver resolver{*controller, selection,   host.getSessionManager(),
+                                                         nullptr,     &clipboard,  project.getObjectEvents(),
+                                                         clipboard,   hostContext, gui};
     std::vector<aec::CContextMenuItem> items;
 };
 

@@ -177,21 +177,33 @@ TEST_F(ProjectExplorerRootActivityTest, EachContextMenuIsMadeForTheSelectionOfIt
     EXPECT_FALSE(hasRenameItem(gui.getLastContextMenu()));
 }
 
-TEST_F(ProjectExplorerRootActivityTest, NeedsAClipboardListenerRegistryAndHasNoDrawingTool)
+// A host that never set a registry still gets a working activity; paste then simply does not
+// follow the clipboard.
+TEST_F(ProjectExplorerRootActivityTest, WorksWithoutAClipboardListenerRegistryAndHasNoDrawingTool)
 {
     aec::host::CGui otherGui;
     const auto viewWithoutRegistry = createView();
     viewWithoutRegistry->setGui(&otherGui);
-    const std::string noRegistry =
-        violationSite<common::EPreconditionViolation>([&] { viewWithoutRegistry->createActivity(); });
-    EXPECT_EQ(siteFile(noRegistry), activityFile);
+    auto activity = viewWithoutRegistry->createActivity();
+    for (const std::vector<int>& commands : {activeCommands, lifelongCommands})
+        for (const int command : commands)
+            EXPECT_TRUE(otherGui.hasCommandHandler(command)) << command;
+    clipboard.setData(aec::clipboardFormatProjectEntities, L"entities");
+    EXPECT_TRUE(otherGui.isCommandEnabled(aec::commands::paste)) << "left as the host had it";
+    otherGui.runCommand(aec::commands::paste);
+    EXPECT_EQ(entityController.pastes, 1);
+
+    activity->deactivate();
+    activity->activate();
+    activity.reset();
     for (const std::vector<int>& commands : {activeCommands, lifelongCommands})
         for (const int command : commands)
             EXPECT_FALSE(otherGui.hasCommandHandler(command)) << command;
 
-    const auto activity = view->createActivity();
-    EXPECT_EQ(siteFile(violationSite<common::ENotImplemented>([&] { activity->forwardToDrawingTool(); })),
-              activityFile);
+    const auto boundActivity = view->createActivity();
+    EXPECT_EQ(
+        siteFile(violationSite<common::ENotImplemented>([&] { boundActivity->forwardToDrawingTool(); })),
+        activityFile);
 }
 
 } // namespace

@@ -1,18 +1,19 @@
+#include "ProjectExplorerLib/ProjectExplorerView.h"
+
+#include "Common/AssertionViolation.h"
+#include "Common/Exception.h"
+#include "ExplorerViewFixture.h"
+#include "FaultInjection/FaultPlan.h"
+#include "FaultInjection/FaultyGui.h"
+#include "HostFrame/GroupingButtons.h"
 #include "ProjectExplorerLib/ProjectExplorer.h"
 #include "ProjectExplorerLib/ProjectExplorerEntitySelection.h"
 #include "ProjectExplorerLib/ProjectExplorerExports.h"
-#include "ProjectExplorerLib/ProjectExplorerView.h"
-
-#include "ExplorerViewFixture.h"
 #include "ViolationSite.h"
-
 #include "aec/Activity.h"
 #include "aec/ProjectExplorer.h"
 #include "aec/ProjectExplorerGroup.h"
 #include "aec/ProjectExplorerGroupingModel.h"
-
-#include "Common/AssertionViolation.h"
-#include "HostFrame/GroupingButtons.h"
 
 #include <set>
 
@@ -107,6 +108,38 @@ TEST_F(ProjectExplorerViewTest, TakesTheGuiOnceNeverNullAndMakesActivitiesOnlyAf
     EXPECT_NE(view->createActivity(), nullptr);
 
     EXPECT_EQ(siteFile(violationSite<common::ENotImplemented>([&] { view->print(); })), viewFile);
+}
+
+// A GUI that fails while the view binds to it (here at the third button callback) gets back what it
+// was given, and the view can be bound again once the GUI works.
+TEST_F(ProjectExplorerViewTest, ASetGuiThatFailsPartWayLeavesTheViewToBeBoundAgain)
+{
+    aec::fault_injection::CFaultPlan plan;
+    aec::fault_injection::CFaultyGui faultyGui(plan, gui);
+    std::size_t point = 0;
+    {
+        const auto counted = createView();
+        plan.count();
+        counted->setGui(&faultyGui);
+        plan.stop();
+        const auto& sites = plan.getReachedSites();
+        std::size_t callbacks = 0;
+        while (point < sites.size() && !(sites[point] == "IGui::registerButtonCallback" && ++callbacks == 3))
+            ++point;
+        ASSERT_LT(point, sites.size());
+    }
+
+    const auto view = createView();
+    plan.failAt(point + 1, aec::fault_injection::CFaultPlan::Fault::HostError);
+    EXPECT_THROW(view->setGui(&faultyGui), common::EException);
+    plan.stop();
+    EXPECT_EQ(boundButtons(gui), 0);
+    EXPECT_FALSE(gui.hasDocumentActivatedRegistration());
+    EXPECT_FALSE(gui.hasDocumentClosingRegistration());
+
+    view->setGui(&faultyGui);
+    EXPECT_EQ(boundButtons(gui), 14);
+    EXPECT_NE(view->createActivity(), nullptr);
 }
 
 TEST_F(ProjectExplorerViewTest, BindsGroupingButtonsOfGroupableGroupsToTheirOwnModels)

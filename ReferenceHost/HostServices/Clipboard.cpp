@@ -34,7 +34,17 @@ void CClipboard::clear()
 void CClipboard::addListener(IClipboardListener& listener)
 {
     listeners_.addObserver(listener);
-    listener.clipboardChanged(*this);
+    try
+    {
+        listener.clipboardChanged(*this);
+    }
+    catch (...)
+    {
+        // A registration that fails leaves nothing registered: the caller cannot know that it
+        // would have to remove a listener whose adding it saw fail.
+        listeners_.removeObserver(listener);
+        throw;
+    }
 }
 
 void CClipboard::removeListener(IClipboardListener& listener)

@@ -32,7 +32,8 @@ public:
     // Empties the clipboard.
     void clear();
 
-    // The listener must not be registered yet.
+    // The listener must not be registered yet. A listener that fails to take the current content
+    // is not registered.
     void addListener(IClipboardListener& listener) override;
     // The listener must be registered.
     void removeListener(IClipboardListener& listener) override;
