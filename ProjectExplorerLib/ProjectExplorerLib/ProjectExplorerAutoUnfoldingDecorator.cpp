@@ -1,13 +1,14 @@
 #include "ProjectExplorerLib/ProjectExplorerAutoUnfoldingDecorator.h"
 
+#include "ProjectExplorerLib/StateChangeBatch.h"
 #include "ProjectExplorerLib/SubgroupMembership.h"
-
 #include "aec/ProjectExplorerEntitySelection.h"
 #include "aec/ProjectExplorerGroup.h"
 #include "aec/ProjectExplorerSubgroup.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -75,12 +76,32 @@ CProjectExplorerAutoUnfoldingDecorator::reconnectSubgroups(WatchedGroup& watched
     return made;
 }
 
+void CProjectExplorerAutoUnfoldingDecorator::batchUnfoldsIn(CStateChangeBatch* batch) noexcept
+{
+    batch_ = batch;
+}
+
 void CProjectExplorerAutoUnfoldingDecorator::onSelectionChanged(const aec::EntityIdSet& added)
 {
     if (added.empty())
         return;
-    for (const auto& watched : watchedGroups_)
-        unfoldHolders(*watched, added, nullptr);
+    asOneChange(
+        [this, &added]
+        {
+            for (const auto& watched : watchedGroups_)
+                unfoldHolders(*watched, added, nullptr);
+        });
+}
+
+template <class Unfolds>
+void CProjectExplorerAutoUnfoldingDecorator::asOneChange(Unfolds&& unfolds)
+{
+    std::optional<CStateChangeBatch::CScope> batchScope;
+    if (batch_ != nullptr)
+        batchScope.emplace(*batch_);
+    unfolds();
+    if (batchScope)
+        batchScope->end();
 }
 
 void CProjectExplorerAutoUnfoldingDecorator::unfoldHolders(WatchedGroup& watched, const aec::EntityIdSet& entities,
@@ -112,8 +133,9 @@ void CProjectExplorerAutoUnfoldingDecorator::onSubgroupsChanged(WatchedGroup& wa
     const SubgroupSet made = reconnectSubgroups(watched);
 
     const aec::EntityIdSet& selection = getExplorer().getEntitySelection().getSelection();
-    if (!made.empty() && !selection.empty())
-        unfoldHolders(watched, selection, &made);
+    if (made.empty() || selection.empty())
+        return;
+    asOneChange([this, &watched, &selection, &made] { unfoldHolders(watched, selection, &made); });
 }
 
 void CProjectExplorerAutoUnfoldingDecorator::onEntitiesChanged(WatchedGroup& watched,

@@ -2,11 +2,10 @@
 
 #include "ProjectExplorerLib/ProjectExplorerBaseDecorator.h"
 #include "ProjectExplorerLib/ProjectExplorerStateMonitor.h"
+#include "ProjectExplorerLib/StateChangeBatch.h"
 
 #include <boost/signals2/connection.hpp>
-
 #include <memory>
-#include <vector>
 
 namespace aec
 {
@@ -21,32 +20,26 @@ namespace project_explorer
 //
 // A selection change or a rebuild may unfold thousands of subgroups in one go (selecting all in a
 // folded tree unfolds every subgroup), and each write hands over the whole record, so that one
-// write per unfold would cost the square of the subgroups. While the explorer's own listeners of
-// those signals run, writes therefore wait, and the record is written once when they are done,
-// before the signal's emitter returns. Should a listener throw, the waiting write goes with the
-// next selection change or rebuild.
+// write per unfold would cost the square of the subgroups. The auto-unfolding decorator inside
+// therefore makes its unfolds one change of a batch: writes wait while it unfolds, and the record
+// is written once when it is done, or, should a listener of an unfold throw, as that failure
+// leaves it. A write that could not be made is made with the next change, and at the latest
+// when the decorator goes.
 class CProjectExplorerPreferencesUpdatingDecorator final : public CProjectExplorerBaseDecorator
 {
 public:
     // The preferences must outlive the decorator.
     CProjectExplorerPreferencesUpdatingDecorator(std::unique_ptr<aec::IProjectExplorer> explorer,
                                                  aec::IProjectPreferences& preferences);
+    // Writes what still waits, swallowing a failure: there is no caller left to tell.
     ~CProjectExplorerPreferencesUpdatingDecorator() override;
 
 private:
-    // Connects the two slots that hold writes first and write what waits last, around the listeners
-    // connected so far to the signal.
-    template <class Signal>
-    void holdWritesDuring(Signal& signal);
-    void onStateChanged();
-    void releaseWrites();
     void write();
 
     std::unique_ptr<CProjectExplorerStateMonitor> stateMonitor_;
     aec::IProjectPreferences& preferences_;
-    bool holding_ = false;
-    bool writePending_ = false;
-    std::vector<boost::signals2::scoped_connection> holdConnections_;
+    CStateChangeBatch writes_;
     boost::signals2::scoped_connection stateChangedConnection_;
 };
 

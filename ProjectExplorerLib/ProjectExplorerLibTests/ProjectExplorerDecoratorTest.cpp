@@ -1,17 +1,16 @@
+#include "Common/AssertionViolation.h"
+#include "Common/Exception.h"
 #include "ExplorerTest.h"
-#include "ViolationSite.h"
-
 #include "ProjectExplorerLib/ProjectExplorer.h"
 #include "ProjectExplorerLib/ProjectExplorerAutoUnfoldingDecorator.h"
 #include "ProjectExplorerLib/ProjectExplorerEntitySelection.h"
 #include "ProjectExplorerLib/ProjectExplorerPreferencesUpdatingDecorator.h"
-
+#include "ViolationSite.h"
 #include "aec/ProjectPreferences.h"
-
-#include "Common/AssertionViolation.h"
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 namespace project_explorer::test
 {
@@ -25,8 +24,15 @@ class CRecordingPreferences : public aec::IProjectPreferences
 {
 public:
     std::vector<aec::ProjectExplorerState> written;
+    // The next write fails, as the host's may.
+    bool failNextWrite = false;
     std::optional<aec::ProjectExplorerState> getProjectExplorerState() const override { return std::nullopt; }
-    void setProjectExplorerState(const aec::ProjectExplorerState& state) override { written.push_back(state); }
+    void setProjectExplorerState(const aec::ProjectExplorerState& state) override
+    {
+        if (std::exchange(failNextWrite, false))
+            throw common::EException("the preferences cannot be written");
+        written.push_back(state);
+    }
 };
 
 // Sheets under the topics North and South and an ungrouped table, behind the auto-unfolding decorator.
@@ -155,6 +161,50 @@ TEST_F(ProjectExplorerDecoratorTest, UnfoldsThatFollowOneSelectionReachThePrefer
     group.getGroupingModel().setGroupingKey(aec::PropertyAssignmentKey::noGrouping());
     EXPECT_TRUE(preferences.written.back().at(group.getId()).subgroupExpanded.begin()->second)
         << "the new subgroup of selected sheets is written unfolded";
+}
+
+// A panel that fails on an unfold ends the selection change part-way; the unfolds made up to then
+// are written, and later changes are written at once again.
+TEST_F(ProjectExplorerDecoratorTest, AListenerThatFailsDuringUnfoldsHoldsNoWriteBack)
+{
+    CRecordingPreferences preferences;
+    CProjectExplorerPreferencesUpdatingDecorator updating(std::move(unfolding), preferences);
+    aec::IProjectExplorerGroup& group = named(updating.getGroups(), L"Sheets");
+    boost::signals2::scoped_connection failingPanel =
+        named(group.getSubgroups(), L"North")
+            .expandedChangedSignal()
+            .connect([] { throw common::EException("the panel cannot show the unfold"); });
+
+    EXPECT_THROW(updating.getEntitySelection().setSelection({northSheet}), common::EException);
+    failingPanel.disconnect();
+    ASSERT_EQ(preferences.written.size(), 1u) << "the unfold made before the failure";
+    EXPECT_TRUE(std::ranges::any_of(preferences.written.back().at(group.getId()).subgroupExpanded,
+                                    [](const auto& subgroup) { return subgroup.second; }));
+
+    const bool expanded = group.isExpanded();
+    group.setExpanded(!expanded);
+    ASSERT_EQ(preferences.written.size(), 2u);
+    EXPECT_EQ(preferences.written.back().at(group.getId()).expanded, !expanded);
+}
+
+// A write that the preferences refuse is made again with the next change or, at the latest, as the
+// decorator goes, so that the project is saved with the state the user left.
+TEST_F(ProjectExplorerDecoratorTest, AStateThePreferencesRefusedReachesThemBeforeTheDecoratorGoes)
+{
+    CRecordingPreferences preferences;
+    common::UUID sheetsId;
+    bool folded = false;
+    {
+        CProjectExplorerPreferencesUpdatingDecorator updating(std::move(unfolding), preferences);
+        aec::IProjectExplorerGroup& group = named(updating.getGroups(), L"Sheets");
+        sheetsId = group.getId();
+        folded = !group.isExpanded();
+        preferences.failNextWrite = true;
+        EXPECT_THROW(group.setExpanded(folded), common::EException);
+        EXPECT_TRUE(preferences.written.empty());
+    }
+    ASSERT_EQ(preferences.written.size(), 1u);
+    EXPECT_EQ(preferences.written.back().at(sheetsId).expanded, folded);
 }
 
 } // namespace
