@@ -13,8 +13,10 @@ void CFaultPlan::count()
 {
     counting_ = true;
     failingPoint_.reset();
+    laterFailingPoint_.reset();
     reachedSites_.clear();
     failedSite_.reset();
+    laterFailedSite_.reset();
 }
 
 void CFaultPlan::failAt(std::size_t point, Fault fault)
@@ -25,10 +27,17 @@ void CFaultPlan::failAt(std::size_t point, Fault fault)
     fault_ = fault;
 }
 
+void CFaultPlan::alsoFailAt(std::size_t laterPoint)
+{
+    COMMON_PRECONDITION(failingPoint_ && laterPoint > *failingPoint_);
+    laterFailingPoint_ = laterPoint;
+}
+
 void CFaultPlan::stop() noexcept
 {
     counting_ = false;
     failingPoint_.reset();
+    laterFailingPoint_.reset();
 }
 
 void CFaultPlan::reach(std::string_view site)
@@ -36,9 +45,12 @@ void CFaultPlan::reach(std::string_view site)
     if (!counting_)
         return;
     reachedSites_.push_back(site);
-    if (reachedSites_.size() != failingPoint_)
+    if (reachedSites_.size() == laterFailingPoint_)
+        laterFailedSite_ = site;
+    else if (reachedSites_.size() == failingPoint_)
+        failedSite_ = site;
+    else
         return;
-    failedSite_ = site;
     if (fault_ == Fault::OutOfMemory)
         throw std::bad_alloc();
     throw common::EException(
@@ -53,6 +65,11 @@ const std::vector<std::string_view>& CFaultPlan::getReachedSites() const noexcep
 std::optional<std::string_view> CFaultPlan::getFailedSite() const noexcept
 {
     return failedSite_;
+}
+
+std::optional<std::string_view> CFaultPlan::getLaterFailedSite() const noexcept
+{
+    return laterFailedSite_;
 }
 
 } // namespace aec::fault_injection

@@ -30,6 +30,9 @@ public:
     void count();
     // Numbers the points reached from now on and fails the one with the number (from 1).
     void failAt(std::size_t point, Fault fault);
+    // After failAt: fails a later point of the same run too, alike, such as one reached while the
+    // library takes back what it did before the first failure.
+    void alsoFailAt(std::size_t laterPoint);
     // Lets the points reached from now on pass uncounted; what was counted stays readable.
     void stop() noexcept;
 
@@ -39,15 +42,19 @@ public:
 
     // The sites of the points counted since the last count() or failAt(), in order.
     const std::vector<std::string_view>& getReachedSites() const noexcept;
-    // The site whose point failed since the last failAt(), if one did.
+    // The site whose point failed first since the last failAt(), if one did.
     std::optional<std::string_view> getFailedSite() const noexcept;
+    // The site of the later point of alsoFailAt(), if it was reached.
+    std::optional<std::string_view> getLaterFailedSite() const noexcept;
 
 private:
     bool counting_ = false;
     std::optional<std::size_t> failingPoint_;
+    std::optional<std::size_t> laterFailingPoint_;
     Fault fault_ = Fault::HostError;
     std::vector<std::string_view> reachedSites_;
     std::optional<std::string_view> failedSite_;
+    std::optional<std::string_view> laterFailedSite_;
 };
 
 } // namespace aec::fault_injection

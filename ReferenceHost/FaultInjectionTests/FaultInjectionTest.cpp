@@ -4,12 +4,12 @@
 #include "HostChecks/ExplorerConsistencyCheck.h"
 #include "HostState.h"
 #include "SessionUnderFaults.h"
+#include "TestNames.h"
 #include "UserAction.h"
 #include "aec/EntityTypes.h"
 #include "aec/ProjectExplorerEntityController.h"
 
 #include <algorithm>
-#include <cctype>
 #include <gtest/gtest.h>
 #include <iostream>
 #include <new>
@@ -145,23 +145,6 @@ void runWithFault(const UserAction& action, std::size_t point, Fault fault, cons
     expectFreeForTheNextAction(world, check);
 }
 
-std::string testNameOf(const ::testing::TestParamInfo<UserAction>& info)
-{
-    std::string name;
-    bool upper = true;
-    for (const char character : info.param.name)
-    {
-        if (std::isalnum(static_cast<unsigned char>(character)) == 0)
-        {
-            upper = true;
-            continue;
-        }
-        name += upper ? static_cast<char>(std::toupper(static_cast<unsigned char>(character))) : character;
-        upper = false;
-    }
-    return name;
-}
-
 class FaultInjectionTest : public ::testing::TestWithParam<UserAction>
 {
 };
@@ -193,7 +176,7 @@ TEST_P(FaultInjectionTest, NoFailureOfAHostServiceLeavesAHalfMadeChange)
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryModelChangingAction, FaultInjectionTest, ::testing::ValuesIn(userActions()),
-                         testNameOf);
+                         testNameOf<UserAction>);
 
 // The host services that the actions must meet through the decorations; a service that none of
 // them reaches would never fail, and its failures would go untested.
