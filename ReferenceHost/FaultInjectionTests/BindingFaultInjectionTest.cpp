@@ -22,7 +22,9 @@
 #include <array>
 #include <gtest/gtest.h>
 #include <iostream>
+#include <map>
 #include <new>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -39,26 +41,31 @@ constexpr std::array activeCommands{commands::importTable, commands::editPropert
                                     commands::deleteSelection, commands::swallowed};
 constexpr std::array lifelongCommands{commands::copy, commands::cut, commands::paste};
 
-// Registrations with the host, whose failure the library must take back, and the calls that take
-// them back.
-bool isRegistration(std::string_view site)
+// The calls that register something with the host, and those that take a registration back.
+enum class SiteKind
 {
-    static const std::set<std::string_view> sites{
-        "IGui::addCommandHandler",       "IGui::setContextMenuHandler",
-        "IGui::registerButtonCallback",  "IGui::registerDocumentActivated",
-        "IGui::registerDocumentClosing", "IClipboardListenerRegistry::addListener",
-    };
-    return sites.contains(site);
-}
+    Registration,
+    Release,
+};
 
-bool isRelease(std::string_view site)
+std::optional<SiteKind> kindOf(std::string_view site)
 {
-    static const std::set<std::string_view> sites{
-        "IGui::removeCommandHandler",     "IGui::clearContextMenuHandler",
-        "IGui::unregisterButtonCallback", "IGui::releaseDocumentActivated",
-        "IGui::releaseDocumentClosing",   "IClipboardListenerRegistry::removeListener",
+    static const std::map<std::string_view, SiteKind> sites{
+        {"IGui::addCommandHandler", SiteKind::Registration},
+        {"IGui::setContextMenuHandler", SiteKind::Registration},
+        {"IGui::registerButtonCallback", SiteKind::Registration},
+        {"IGui::registerDocumentActivated", SiteKind::Registration},
+        {"IGui::registerDocumentClosing", SiteKind::Registration},
+        {"IClipboardListenerRegistry::addListener", SiteKind::Registration},
+        {"IGui::removeCommandHandler", SiteKind::Release},
+        {"IGui::clearContextMenuHandler", SiteKind::Release},
+        {"IGui::unregisterButtonCallback", SiteKind::Release},
+        {"IGui::releaseDocumentActivated", SiteKind::Release},
+        {"IGui::releaseDocumentClosing", SiteKind::Release},
+        {"IClipboardListenerRegistry::removeListener", SiteKind::Release},
     };
-    return sites.contains(site);
+    const auto found = sites.find(site);
+    return found == sites.end() ? std::nullopt : std::optional(found->second);
 }
 
 // Whatever the host holds of the explorer belongs to a live object: with no project open it holds
@@ -190,7 +197,7 @@ void runWithFaults(const BindingAction& action, Fault fault, std::size_t point, 
     }
 
     // Closing cannot fail; what it could not release is told on the status line instead.
-    if (action.name == "close the project" && laterPoint == 0 && isRelease(expectedSite))
+    if (action.name == "close the project" && laterPoint == 0 && kindOf(expectedSite) == SiteKind::Release)
     {
         EXPECT_NE(world.session.getStatusService().getLastMessage().find(L"could not release"),
                   std::wstring::npos);
@@ -240,12 +247,12 @@ TEST_P(BindingFaultInjectionTest, ASecondFailureWhileTakingBackTheFirstLeavesNot
     std::size_t runs = 0;
     for (std::size_t point = 1; point <= sites.size(); ++point)
     {
-        if (!isRegistration(sites[point - 1]))
+        if (kindOf(sites[point - 1]) != SiteKind::Registration)
             continue;
         const std::vector<std::string_view> rollback = sitesFailingAt(action, point);
         for (std::size_t later = point + 1; later <= rollback.size(); ++later)
         {
-            if (!isRelease(rollback[later - 1]))
+            if (kindOf(rollback[later - 1]) != SiteKind::Release)
                 continue;
             SCOPED_TRACE(::testing::Message() << "at point " << point << ", " << sites[point - 1]
                                               << ", then at " << later << ", " << rollback[later - 1]);
