@@ -21,20 +21,6 @@ namespace
 
 const std::string activityFile = "ProjectExplorerLib/ProjectExplorerLib/ProjectExplorerRootActivity.cpp";
 
-struct State
-{
-    bool claimed; // the second boolean state, else the first
-    int command;
-    bool value;
-};
-
-// The states of the host's commands while the explorer is active.
-const std::vector<State> activeStates{
-    {true, 809, true},  {false, 79, false}, {false, 78, false}, {false, 69, false}, {false, 70, false},
-    {false, 73, false}, {false, 74, false}, {false, 76, true},  {false, 75, true},  {false, 86, true},
-    {true, 487, false}, {true, 83, true},   {true, 84, true},   {false, 87, false},
-};
-
 // The commands bound while the explorer is active, and those bound for the activity's whole life.
 const std::vector<int> activeCommands{86, 12, 11, 22};
 const std::vector<int> lifelongCommands{81, 82, 85};
@@ -51,18 +37,6 @@ protected:
     }
     const aec::EntityIdSet& selection() { return explorer().getEntitySelection().getSelection(); }
     aec::EntityIdList selectedList() { return {selection().begin(), selection().end()}; }
-    // Deactivation gives back the claim of command 83 and leaves every other state as it was.
-    void expectStates(bool active)
-    {
-        for (const State& state : activeStates)
-        {
-            const bool expected = state.value && (active || !state.claimed || state.command != 83);
-            EXPECT_EQ(state.claimed ? gui.isCommandClaimed(state.command)
-                                    : gui.isCommandAvailable(state.command),
-                      expected)
-                << state.command;
-        }
-    }
     // Whether paste follows the clipboard: the clipboard tells only its registered listeners, and
     // refuses a second registration of one.
     bool followsClipboard()
@@ -81,6 +55,8 @@ protected:
     std::unique_ptr<aec::INonDrawingView> view = createBoundView();
 };
 
+// The command states and the order of the calls are pinned with the host's call log
+// (BindingOrderTest); here, what the host holds after each switch.
 TEST_F(ProjectExplorerRootActivityTest, ActivatesOnceAndDeactivationReleasesWhatItBound)
 {
     clipboard.setData(aec::clipboardFormatProjectEntities, L"entities");
@@ -90,13 +66,11 @@ TEST_F(ProjectExplorerRootActivityTest, ActivatesOnceAndDeactivationReleasesWhat
     // deactivating twice would throw here.
     expectHandlers(activeCommands, true);
     expectHandlers(lifelongCommands, true);
-    expectStates(true);
     EXPECT_TRUE(gui.hasContextMenuHandler());
     EXPECT_TRUE(gui.isCommandEnabled(aec::commands::paste));
     EXPECT_TRUE(followsClipboard());
 
     activity->activate();
-    expectStates(true);
     EXPECT_TRUE(followsClipboard());
 
     for (int round = 0; round < 2; ++round)
@@ -105,14 +79,12 @@ TEST_F(ProjectExplorerRootActivityTest, ActivatesOnceAndDeactivationReleasesWhat
         activity->deactivate();
         expectHandlers(activeCommands, false);
         expectHandlers(lifelongCommands, true);
-        expectStates(false);
         EXPECT_FALSE(gui.hasContextMenuHandler());
         EXPECT_FALSE(followsClipboard());
 
         activity->activate();
         activity->activate();
         expectHandlers(activeCommands, true);
-        expectStates(true);
         EXPECT_TRUE(gui.hasContextMenuHandler());
         EXPECT_TRUE(followsClipboard());
     }
