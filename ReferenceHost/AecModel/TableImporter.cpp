@@ -11,6 +11,7 @@
 #include <boost/locale/encoding_utf.hpp>
 #include <fmt/format.h>
 #include <limits>
+#include <memory>
 #include <utility>
 
 namespace aec::model
@@ -36,9 +37,26 @@ EntityId CTableImporter::importTable(IProject& project, const std::filesystem::p
 {
     CProject& target = aec::cast<CProject>(project);
     std::optional<CTableFileReader::Result> table;
+    // The progress hears of the end whether the read succeeded or not, so that a host can take its
+    // progress indication down either way.
+    const std::unique_ptr<const TableReadProgress, void (*)(const TableReadProgress*)> announceEnd(
+        &progress_,
+        [](const TableReadProgress* progress)
+        {
+            try
+            {
+                if (*progress)
+                    (*progress)(1.0);
+            }
+            catch (...)
+            {
+                // Too late to cancel: the import has ended, and this runs while an error unwinds.
+            }
+        });
     try
     {
-        table = CTableFileReader::read(file, choices_, std::numeric_limits<std::size_t>::max(), progress_);
+        table = CTableFileReader::read(file, std::exchange(choices_, {}),
+                                       std::numeric_limits<std::size_t>::max(), progress_);
     }
     catch (const common::EException& error)
     {

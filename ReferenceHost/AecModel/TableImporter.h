@@ -36,16 +36,19 @@ public:
     // leaves the project as it was.
     EntityId importTable(IProject& project, const std::filesystem::path& file) const override;
 
-    // What the next imports read as given rather than detected (a preview's choices); they hold
-    // until changed.
+    // What the next import reads as given rather than detected (a preview's choices); the import
+    // after it detects again.
     void setChoices(const TableReadChoices& choices) { choices_ = choices; }
-    // Told how far each import has come; may cancel it by throwing, which leaves the project as it was.
+    // Told how far each import has come, and 1 when it ends, whether it succeeded or not; may cancel
+    // it by throwing (but not when told 1), which leaves the project as it was.
     void setProgress(TableReadProgress progress) { progress_ = std::move(progress); }
     // What the last import that succeeded found, for the host's status line.
     const std::optional<TableImportReport>& getLastReport() const noexcept { return lastReport_; }
 
 private:
-    TableReadChoices choices_;
+    // Taken by the const import: the host interface's operation is const, and the choices are the
+    // caller's word for one import, not part of the importer's state.
+    mutable TableReadChoices choices_;
     TableReadProgress progress_;
     // Written by the const import: the host interface's operation is const, and the report is no
     // part of the importer's behaviour, only a record of its last run.

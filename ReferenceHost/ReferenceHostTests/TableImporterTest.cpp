@@ -340,7 +340,9 @@ TEST_F(TableImporterTest, ChoicesOverDetectionAndCancellingLeavesTheProjectAsItW
     importer.setChoices({.encoding = std::nullopt, .delimiter = ',', .headerRow = false});
     EXPECT_EQ(cellsOf(import(file)), (Cells{{"Room;Area", ""}, {"Hall;7", "5"}}));
 
-    importer.setChoices({});
+    // The choices hold for one import; the next one detects again.
+    EXPECT_EQ(cellsOf(import(file)), (Cells{{"Hall", "7,5"}}));
+
     importer.setProgress([](double) { throw common::EException("the import was cancelled"); });
     expectRefused(file, "the import was cancelled");
 }
