@@ -1,6 +1,9 @@
 #include "AecModel/TableCells.h"
 
 #include <algorithm>
+#include <limits>
+#include "Common/Exception.h"
+
 #include <nlohmann/json.hpp>
 
 namespace aec::model
@@ -8,15 +11,18 @@ namespace aec::model
 
 void CTableCells::addCell(std::string_view text)
 {
+    if (text_.size() + text.size() > std::numeric_limits<Offset>::max() ||
+        cellEnds_.size() == std::numeric_limits<Offset>::max())
+        throw common::EException("the table is too large to import");
     text_ += text;
-    cellEnds_.push_back(text_.size());
+    cellEnds_.push_back(static_cast<Offset>(text_.size()));
 }
 
 void CTableCells::endRow()
 {
     const std::size_t cells = cellEnds_.size() - (rowEnds_.empty() ? 0 : rowEnds_.back());
     columns_ = std::max(columns_, cells);
-    rowEnds_.push_back(cellEnds_.size());
+    rowEnds_.push_back(static_cast<Offset>(cellEnds_.size()));
 }
 
 std::size_t CTableCells::cellCount(std::size_t row) const noexcept

@@ -3,6 +3,7 @@
 #include "AecModel/AecModelApi.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,8 +17,12 @@ namespace aec::model
 class AECMODEL_API CTableCells
 {
 public:
+    // Throws common::EException when the table's text outgrows 4 GiB.
     void addCell(std::string_view text);
     void endRow();
+    // Room for this much cell text, when the reader knows it ahead (delimited text holds no more
+    // than its own size), so that the buffer does not grow by copies.
+    void reserveText(std::size_t bytes) { text_.reserve(bytes); }
 
     std::size_t rowCount() const noexcept { return rowEnds_.size(); }
     // The length of the longest row.
@@ -40,10 +45,14 @@ private:
     std::size_t firstCell(std::size_t row) const noexcept { return row == 0 ? 0 : rowEnds_[row - 1]; }
     void appendRowJson(std::string& json, std::size_t row) const;
 
+    // 32-bit offsets: most cells are a few bytes long, so 64-bit ones would weigh more than the
+    // text itself.
+    using Offset = std::uint32_t;
+
     std::string text_;
     // Where each cell's text ends in text_, and where each row's cells end in cellEnds_.
-    std::vector<std::size_t> cellEnds_;
-    std::vector<std::size_t> rowEnds_;
+    std::vector<Offset> cellEnds_;
+    std::vector<Offset> rowEnds_;
     std::size_t columns_ = 0;
 };
 

@@ -44,6 +44,7 @@ void readDelimited(std::string_view text, char delimiter, CTableCells& cells, st
                    const TableReadProgress& progress)
 {
     CCsvReader reader(text, delimiter);
+    cells.reserveText(text.size());
     std::vector<std::string> fields;
     for (std::size_t records = 0; records < rowLimit && reader.next(fields); ++records)
     {
