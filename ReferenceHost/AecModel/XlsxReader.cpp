@@ -126,6 +126,8 @@ std::string generalNumber(const std::string& value)
     return text;
 }
 
+// Empty cells and rows count only when a cell with text follows them: spreadsheet programs write
+// formatted empty cells and rows past the end of the data, which are no part of the table.
 class CWorksheetParser final : public CXmlStreamParser
 {
 public:
@@ -137,7 +139,7 @@ public:
     // Ends the row still open when the sheet ended early, at the row limit.
     void finish()
     {
-        if (inRow_)
+        if (inRow_ && rowHasText_)
             cells_.endRow();
         inRow_ = false;
     }
@@ -168,12 +170,7 @@ private:
         else if (name == "c" && inCell_)
             endCell();
         else if (name == "row" && inRow_)
-        {
-            cells_.endRow();
-            inRow_ = false;
-            if (cells_.rowCount() >= rowLimit_)
-                stop();
-        }
+            endRow();
     }
 
     void onText(std::string_view text) override
@@ -185,7 +182,7 @@ private:
     void startRow(const char* reference)
     {
         // Rows that have no cell are left out of the file; they are there in the sheet.
-        std::size_t number = cells_.rowCount() + 1;
+        const std::size_t rowsSoFar = cells_.rowCount() + emptyRows_;
         if (reference != nullptr)
         {
             const std::string_view text = reference;
@@ -193,25 +190,37 @@ private:
             const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), given);
             if (error != std::errc() || end != text.data() + text.size() || given == 0 || given > maximumRows)
                 damaged(fmt::format("the row number \"{}\" is not valid", text));
-            number = std::max(number, given);
-        }
-        while (cells_.rowCount() + 1 < number && cells_.rowCount() < rowLimit_)
-            cells_.endRow();
-        if (cells_.rowCount() >= rowLimit_)
-        {
-            stop();
-            return;
+            if (given > rowsSoFar + 1)
+                emptyRows_ += given - rowsSoFar - 1;
         }
         inRow_ = true;
+        rowHasText_ = false;
         column_ = 0;
+        emptyCells_ = 0;
+    }
+
+    void endRow()
+    {
+        inRow_ = false;
+        if (!rowHasText_)
+        {
+            ++emptyRows_;
+            return;
+        }
+        cells_.endRow();
+        if (cells_.rowCount() >= rowLimit_)
+            stop();
     }
 
     void startCell(const char* reference, const char* type)
     {
+        // A column given twice or backwards takes the next one.
         const std::size_t column = reference == nullptr ? column_ + 1 : columnOf(reference);
-        // Cells that are left out are empty; a column given twice or backwards takes the next one.
-        for (; column_ + 1 < column; ++column_)
-            cells_.addCell({});
+        if (column > column_ + 1)
+        {
+            emptyCells_ += column - column_ - 1;
+            column_ = column - 1;
+        }
         type_ = type == nullptr ? "n" : type;
         value_.clear();
         inCell_ = true;
@@ -221,6 +230,25 @@ private:
     {
         inCell_ = false;
         ++column_;
+        const std::string text = cellText();
+        if (text.empty())
+        {
+            ++emptyCells_;
+            return;
+        }
+        if (!rowHasText_)
+        {
+            for (; emptyRows_ > 0 && cells_.rowCount() < rowLimit_; --emptyRows_)
+                cells_.endRow();
+            rowHasText_ = true;
+        }
+        for (; emptyCells_ > 0; --emptyCells_)
+            cells_.addCell({});
+        cells_.addCell(text);
+    }
+
+    std::string cellText() const
+    {
         if (type_ == "s")
         {
             std::size_t index = 0;
@@ -228,23 +256,25 @@ private:
             if (error != std::errc() || end != value_.data() + value_.size() ||
                 index >= sharedStrings_.size())
                 damaged(fmt::format("a cell refers to the shared string \"{}\", which is not there", value_));
-            cells_.addCell(sharedStrings_[index]);
+            return sharedStrings_[index];
         }
-        else if (type_ == "b")
-            cells_.addCell(value_ == "1" ? "TRUE" : value_ == "0" ? "FALSE" : value_);
-        else if (type_ == "n" && !value_.empty())
-            cells_.addCell(generalNumber(value_));
-        else
-            cells_.addCell(value_);
+        if (type_ == "b")
+            return value_ == "1" ? "TRUE" : value_ == "0" ? "FALSE" : value_;
+        if (type_ == "n" && !value_.empty())
+            return generalNumber(value_);
+        return value_;
     }
 
     CTableCells& cells_;
     const std::vector<std::string>& sharedStrings_;
     std::size_t rowLimit_;
     std::size_t column_ = 0;
+    std::size_t emptyCells_ = 0;
+    std::size_t emptyRows_ = 0;
     std::string type_;
     std::string value_;
     bool inRow_ = false;
+    bool rowHasText_ = false;
     bool inCell_ = false;
     bool inValue_ = false;
     bool inInlineString_ = false;

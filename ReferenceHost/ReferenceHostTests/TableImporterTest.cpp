@@ -255,6 +255,13 @@ TEST_F(TableImporterTest, XlsxWorkbooksGiveTheirFirstWorksheetAsShown)
          {},
          "XLSX, sheet \"Blank\", no header row, 0 rows, 0 columns",
          ""},
+        {"formatted empty cells and rows past the data", "formatted.xlsx",
+         CSpreadsheetWriter::xlsxAround(
+             R"(<worksheet><sheetData><row r="1"><c t="inlineStr"><is><t>Mark</t></is></c>)"
+             R"(<c r="C1" s="1"/></row><row r="2"><c r="A2"><v>7</v></c><c r="B2" s="1"/>)"
+             R"(</row><row r="3" s="1"/><row r="9"><c r="A9" s="2"/></row></sheetData></worksheet>)",
+             "<sst/>"),
+         Cells{{"7"}}, Row{"Mark"}, "XLSX, sheet \"Sheet1\", header row, 1 row, 1 column", ""},
         {"cut short",
          "cut.xlsx",
          whole.substr(0, whole.size() / 2),
