@@ -1,5 +1,7 @@
 #pragma once
 
+#include "AecModel/AecModelApi.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -8,38 +10,37 @@
 namespace aec::model
 {
 
-// Reads comma-separated values as RFC 4180 defines them: records end at CRLF or LF, fields are
-// separated by commas, a field that starts with a quote runs to the matching quote and may hold
-// commas, line breaks and doubled quotes. The text is UTF-8, optionally after a byte order mark.
-// Line breaks inside quoted fields read as LF whatever the file uses.
+// Reads delimited text as spreadsheet programs do. Records end at CR LF, LF or a lone CR; a field
+// that starts with a quote runs to the matching quote and may hold delimiters, line breaks (kept
+// exactly as written, CR LF included) and doubled quotes; text after its closing quote is kept as
+// it is. A quote anywhere else in a field is an ordinary character (37°36'37.8"N).
 //
-// Written by hand: none of the libraries at hand reads CSV strictly, and a user who fixes a file
-// needs the line of the fault (where a quote was opened and never closed, for instance), which
-// lenient readers do not report.
-class CCsvReader
+// Written by hand: the libraries at hand read either strictly (refusing files that spreadsheet
+// programs open) or without the line of a quote that is never closed, which a user fixing a file
+// needs. Records are read one at a time into reused strings, so a large file costs no more than
+// its text and the cells the caller keeps.
+class AECMODEL_API CCsvReader
 {
 public:
-    // Each record as its fields, in UTF-8.
-    using Records = std::vector<std::vector<std::string>>;
+    CCsvReader(std::string_view text, char delimiter);
 
-    explicit CCsvReader(std::string_view text);
+    // The next record's fields, or false after the last one. Throws common::EException "line <n>:
+    // ..." for a quoted field that is never closed.
+    bool next(std::vector<std::string>& fields);
 
-    // Throws common::EException "line <n>: <fault>" for text that is not valid UTF-8, a quoted field
-    // without its closing quote, a quote inside an unquoted field, and text after a closing quote.
-    // Records may have different numbers of fields.
-    Records read();
+    // How far the reader is into the text, in bytes.
+    std::size_t position() const noexcept { return position_; }
 
 private:
-    void checkUtf8() const;
-    std::vector<std::string> readRecord();
-    std::string readQuoted();
-    std::string readUnquoted();
+    void readQuoted(std::string& field);
+    void readUnquoted(std::string& field);
     bool atEnd() const noexcept { return position_ == text_.size(); }
     bool atLineEnd() const noexcept;
+    bool atFieldEnd() const noexcept { return atEnd() || text_[position_] == delimiter_ || atLineEnd(); }
     void skipLineEnd() noexcept;
-    [[noreturn]] static void fail(std::size_t line, std::string_view fault);
 
     std::string_view text_;
+    char delimiter_;
     std::size_t position_ = 0;
     std::size_t line_ = 1;
 };

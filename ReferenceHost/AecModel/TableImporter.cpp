@@ -1,42 +1,24 @@
 #include "AecModel/TableImporter.h"
 
-#include "AecModel/CsvReader.h"
-#include "AecModel/InputFile.h"
 #include "AecModel/Project.h"
+#include "AecModel/TableFileReader.h"
 #include "AecModel/UniqueNameGenerator.h"
 #include "AecModel/WideText.h"
-
-#include "aec/Cast.h"
-
 #include "Common/Exception.h"
 #include "Common/UUID.h"
+#include "aec/Cast.h"
 
 #include <boost/locale/encoding_utf.hpp>
 #include <fmt/format.h>
-#include <nlohmann/json.hpp>
-
-#include <algorithm>
-#include <fstream>
-#include <sstream>
+#include <limits>
+#include <memory>
+#include <utility>
 
 namespace aec::model
 {
 
 namespace
 {
-
-std::string readFile(const std::filesystem::path& file)
-{
-    std::ifstream stream = openInputFile(file);
-    // Through the stream buffer rather than istreambuf_iterator, whose inlined reads GCC's optimiser
-    // takes for null dereferences (-Wnull-dereference in release builds). An empty file leaves the
-    // text empty and only `text` failed, which is no error.
-    std::ostringstream text;
-    text << stream.rdbuf();
-    if (stream.bad())
-        throw common::EException("the file cannot be read to its end");
-    return std::move(text).str();
-}
 
 // File names are bytes on this platform, UTF-8 by convention; bytes that are not UTF-8 are left out
 // of the table's name rather than refusing a file that reads well.
@@ -47,17 +29,6 @@ std::wstring tableName(const std::filesystem::path& file)
     return name.empty() ? std::wstring(L"Table") : name;
 }
 
-std::wstring cellsText(CCsvReader::Records& records, std::size_t columns)
-{
-    nlohmann::json cells = nlohmann::json::array();
-    for (std::vector<std::string>& record : records)
-    {
-        record.resize(columns);
-        cells.push_back(std::move(record));
-    }
-    return fromUtf8(cells.dump());
-}
-
 } // namespace
 
 CTableImporter::~CTableImporter() = default;
@@ -65,10 +36,27 @@ CTableImporter::~CTableImporter() = default;
 EntityId CTableImporter::importTable(IProject& project, const std::filesystem::path& file) const
 {
     CProject& target = aec::cast<CProject>(project);
-    CCsvReader::Records records;
+    std::optional<CTableFileReader::Result> table;
+    // The progress hears of the end whether the read succeeded or not, so that a host can take its
+    // progress indication down either way.
+    const std::unique_ptr<const TableReadProgress, void (*)(const TableReadProgress*)> announceEnd(
+        &progress_,
+        [](const TableReadProgress* progress)
+        {
+            try
+            {
+                if (*progress)
+                    (*progress)(1.0);
+            }
+            catch (...)
+            {
+                // Too late to cancel: the import has ended, and this runs while an error unwinds.
+            }
+        });
     try
     {
-        records = CCsvReader(readFile(file)).read();
+        table = CTableFileReader::read(file, std::exchange(choices_, {}),
+                                       std::numeric_limits<std::size_t>::max(), progress_);
     }
     catch (const common::EException& error)
     {
@@ -76,18 +64,22 @@ EntityId CTableImporter::importTable(IProject& project, const std::filesystem::p
             fmt::format("The table file \"{}\" cannot be imported: {}.", file.string(), error.what()));
     }
 
-    std::size_t columns = 0;
-    for (const std::vector<std::string>& record : records)
-        columns = std::max(columns, record.size());
-    const std::size_t rows = records.size();
-
+    const TableImportReport report = table->report;
+    const bool headerRow = report.settings.headerRow;
     const EntityId id =
         target.addEntity(EntityCollection::Tables,
                          CUniqueNameGenerator(target, EntityCollection::Tables).takeUnique(tableName(file)),
                          std::nullopt, EntityId(common::UUID::generate()));
-    target.setEntityProperty(id, std::string(rowsProperty), std::to_wstring(rows));
-    target.setEntityProperty(id, std::string(columnsProperty), std::to_wstring(columns));
-    target.setEntityProperty(id, std::string(cellsProperty), cellsText(records, columns));
+    target.setEntityProperty(id, std::string(rowsProperty), std::to_wstring(report.rows));
+    target.setEntityProperty(id, std::string(columnsProperty), std::to_wstring(report.columns));
+    if (headerRow)
+        target.setEntityProperty(id, std::string(columnNamesProperty), fromUtf8(table->cells.rowAsJson(0)));
+    // The JSON text is let go before its wide copy is made: a large table's cells are the biggest
+    // thing an import holds.
+    std::string cells = table->cells.rowsAsJson(headerRow ? 1 : 0);
+    table.reset();
+    target.setEntityProperty(id, std::string(cellsProperty), fromUtf8(std::exchange(cells, {})));
+    lastReport_ = report;
     return id;
 }
 

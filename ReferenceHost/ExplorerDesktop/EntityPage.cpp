@@ -84,10 +84,11 @@ bool CEntityPage::showFrom(const model::CProject& project)
 
     // The cells are shown as a grid below; as a property they would be one long line of JSON.
     const std::string cellsProperty(model::CTableImporter::cellsProperty);
+    const std::string columnNamesProperty(model::CTableImporter::columnNamesProperty);
     properties_->setRowCount(0);
     for (const auto& [name, value] : entity->getProperties())
     {
-        if (name == cellsProperty)
+        if (name == cellsProperty || name == columnNamesProperty)
             continue;
         const int row = properties_->rowCount();
         properties_->insertRow(row);
@@ -95,6 +96,7 @@ bool CEntityPage::showFrom(const model::CProject& project)
         properties_->setItem(row, 1, new QTableWidgetItem(QString::fromStdWString(value)));
     }
     showCells(entity->getProperty(cellsProperty));
+    showColumnNames(entity->getProperty(columnNamesProperty));
     return true;
 }
 
@@ -124,6 +126,22 @@ void CEntityPage::showCells(const std::optional<std::wstring>& cellsJson)
                                                   : QString::fromStdString(cell.dump());
             cells_->setItem(static_cast<int>(row), static_cast<int>(column), new QTableWidgetItem(text));
         }
+}
+
+void CEntityPage::showColumnNames(const std::optional<std::wstring>& columnNamesJson)
+{
+    const nlohmann::json names = columnNamesJson
+                                     ? nlohmann::json::parse(model::toUtf8(*columnNamesJson), nullptr, false)
+                                     : nlohmann::json();
+    if (cells_->isHidden() || !names.is_array())
+        return;
+    QStringList labels;
+    for (const nlohmann::json& name : names)
+        labels.append(name.is_string() ? QString::fromStdString(name.get<std::string>()) : QString());
+    // Columns beyond the names (cells edited by hand) keep their numbers.
+    for (int column = static_cast<int>(labels.size()); column < cells_->columnCount(); ++column)
+        labels.append(QString::number(column + 1));
+    cells_->setHorizontalHeaderLabels(labels);
 }
 
 } // namespace aec::desktop

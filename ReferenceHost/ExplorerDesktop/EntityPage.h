@@ -37,6 +37,8 @@ public:
 
 private:
     void showCells(const std::optional<std::wstring>& cellsJson);
+    // The header row's texts over the cells, when the imported file had one.
+    void showColumnNames(const std::optional<std::wstring>& columnNamesJson);
 
     EntityId entity_;
     QString title_;

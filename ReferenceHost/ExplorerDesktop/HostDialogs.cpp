@@ -1,10 +1,11 @@
 #include "ExplorerDesktop/HostDialogs.h"
 
 #include "ExplorerDesktop/PropertiesDialog.h"
+#include "ExplorerDesktop/TableImportPreviewDialog.h"
+#include "ExplorerDesktop/TableImportProgress.h"
 #include "HostServices/HostServices.h"
 #include "aec/GeneralPurposeDialogService.h"
 
-#include <QFileDialog>
 #include <QMessageBox>
 #include <QWidget>
 
@@ -45,12 +46,9 @@ CHostDialogs::CHostDialogs(host::CHostServices& services, QWidget& parentWindow)
         [parent](const host::CScriptedDialogService::Question& question)
         { return askInMessageBox(*parent, question); });
     services_.getImportFileDialog().setAskCallback(
-        [parent]
-        {
-            return QFileDialog::getOpenFileName(parent, tr("Import table"), QString(),
-                                                tr("Tables (*.csv *.txt);;All files (*)"))
-                .toStdWString();
-        });
+        [this, parent]
+        { return CTableImportPreviewDialog::askForFile(*parent, services_.getTableImporter()); });
+    new CTableImportProgress(services_.getTableImporter(), parentWindow, this);
     services_.getPropertyEditor().setEditCallback(
         [this, parent](IPropertyContextOwner& /*owner*/, const EntityIdSet& entities)
         {

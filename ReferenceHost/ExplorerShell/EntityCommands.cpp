@@ -87,7 +87,7 @@ CEntityCommands::CEntityCommands(host::CExplorerSession& session, CCommandTable&
                {
                    editProperties();
                }});
-    table.add({"import", "FILE", "import a table from a CSV file", 1, 1, true,
+    table.add({"import", "FILE", "import a table from a CSV, .xlsx or .ods file", 1, 1, true,
                [this](const CCommandLine& line, std::ostream& out)
                {
                    importTable(line, out);
@@ -203,7 +203,13 @@ void CEntityCommands::importTable(const CCommandLine& line, std::ostream& out)
     // The explorer asks the file dialog, which answers with this file.
     session_.getHostServices().getImportFileDialog().queueAnswer(model::fromUtf8(line.getArgument(0).text));
     gui.runCommand(commands::importTable);
-    out << "imported: " << lookup.quotedNames(newEntities(lookup, before)) << '\n';
+    const EntityIdList imported = newEntities(lookup, before);
+    out << "imported: " << lookup.quotedNames(imported);
+    // What the import found in the file, for the user to check that it read the file as meant.
+    const auto& report = session_.getHostServices().getTableImporter().getLastReport();
+    if (!imported.empty() && report)
+        out << " (" << report->describe() << ')';
+    out << '\n';
 }
 
 EntityIdList CEntityCommands::requireSelection() const

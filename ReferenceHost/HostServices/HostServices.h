@@ -37,6 +37,8 @@ public:
     CPropertyContainerEditor& getPropertyEditor() noexcept { return propertyEditor_; }
     CScriptedDialogService& getDialogService() noexcept { return dialogService_; }
     const model::CTableImporter& getTableImporter() const noexcept { return tableImporter_; }
+    // For a host that lets the user choose how files are read and watch long imports.
+    model::CTableImporter& getTableImporter() noexcept { return tableImporter_; }
     model::CPasteDataSerializer& getPasteDataSerializer() noexcept { return pasteDataSerializer_; }
 
     const model::CAttributeValueFormatter& getAttributeValueFormatter() const noexcept { return formatter_; }

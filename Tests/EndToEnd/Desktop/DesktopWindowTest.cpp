@@ -10,6 +10,7 @@
 #include "ExplorerDesktop/GroupingBar.h"
 #include "ExplorerDesktop/MainWindow.h"
 #include "ExplorerDesktop/PropertiesDialog.h"
+#include "ExplorerDesktop/TableImportPreviewDialog.h"
 #include "HostFrame/ExplorerPanel.h"
 #include "HostFrame/ExplorerSession.h"
 #include "HostFrame/GroupingButtons.h"
@@ -22,8 +23,12 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
 #include <QFile>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -248,15 +253,13 @@ private Q_SLOTS:
     {
         QTemporaryDir directory;
         QVERIFY(directory.isValid());
-        const QString csv = directory.filePath("Lintels.csv");
-        QFile file(csv);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("Mark,Span,Load\nL1,1200\nL2,2400,12\n");
-        file.close();
-        // The host's request for a table file comes up as a file dialog.
+        const QString csv = writeFile(directory, "Lintels.csv", "Mark,Span,Load\nL1,1200\nL2,2400,12\n");
+        // The host's request for a table file comes up as a file dialog, then as a preview.
         onNextDialog<QFileDialog>(
-            [&csv](QFileDialog& dialog)
+            [this, &csv](QFileDialog& dialog)
             {
+                onNextDialog<CTableImportPreviewDialog>([](CTableImportPreviewDialog& preview)
+                                                        { preview.accept(); });
                 dialog.selectFile(csv);
                 // QFileDialog hides its accept(), which checks the chosen file, behind QDialog's.
                 static_cast<QDialog&>(dialog).accept();
@@ -271,16 +274,47 @@ private Q_SLOTS:
         const CEntityPage* const page = documents.findPage(id);
         QVERIFY(page != nullptr);
         QCOMPARE(documents.tabText(0), QString("Lintels"));
-        QCOMPARE(page->getCells().rowCount(), 3);
+        QCOMPARE(page->getCells().rowCount(), 2);
         QCOMPARE(page->getCells().columnCount(), 3);
-        QCOMPARE(page->getCells().item(2, 2)->text(), QString("12"));
-        QCOMPARE(page->getCells().item(1, 2)->text(), QString());
+        QCOMPARE(page->getCells().horizontalHeaderItem(1)->text(), QString("Span"));
+        QCOMPARE(page->getCells().item(1, 2)->text(), QString("12"));
+        QCOMPARE(page->getCells().item(0, 2)->text(), QString());
 
         QVERIFY(window_->getModel().setData(lintels, QString("Lintels & sills")));
         QCOMPARE(documents.tabText(0), QString("Lintels && sills"));
         window_->getAction("undo").trigger();
         window_->getAction("undo").trigger();
         QCOMPARE(documents.count(), 0);
+    }
+
+    void tablePreviewShowsWhatWasDetectedAndFollowsTheUsersChoices()
+    {
+        QTemporaryDir directory;
+        QVERIFY(directory.isValid());
+        const QString rooms = writeFile(directory, "Räume.csv",
+                                        "Raum;Fl\xE4"
+                                        "che;Ebene\r\nB\xFCro 1;24,5;1\r\nFlur;8;1\r\n");
+
+        CTableImportPreviewDialog preview(rooms, window_.get());
+        QCOMPARE(preview.getEncoding().currentText(), QString("windows-1252"));
+        QCOMPARE(preview.getDelimiter().currentData().toChar(), QChar(';'));
+        QVERIFY(preview.getHeaderRow().isChecked());
+        QCOMPARE(preview.getRows().horizontalHeaderItem(1)->text(), QString("Fläche"));
+        QCOMPARE(preview.getRows().item(0, 1)->text(), QString("24,5"));
+
+        preview.getDelimiter().setCurrentIndex(preview.getDelimiter().findData(QChar(',')));
+        QVERIFY(preview.getChoices().delimiter == ',');
+        QCOMPARE(preview.getRows().item(0, 1)->text(), QString("5;1"));
+        preview.getHeaderRow().setChecked(false);
+        QCOMPARE(preview.getRows().rowCount(), 3);
+        QCOMPARE(preview.getRows().item(0, 0)->text(), QString("Raum;Fläche;Ebene"));
+
+        const QString locked =
+            writeFile(directory, "locked.xlsx",
+                      QByteArray("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1", 8) + QByteArray(504, '\0'));
+        CTableImportPreviewDialog refused(locked, window_.get());
+        QVERIFY(refused.getSummary().text().contains("encrypted"));
+        QVERIFY(!refused.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->isEnabled());
     }
 
     void propertiesShowEverySelectedEntity()
@@ -316,6 +350,16 @@ private:
                                        qobject_cast<Dialog*>(QApplication::activeModalWidget()))
                                    action(*dialog);
                            });
+    }
+
+    // The file of the folder with the bytes as they are.
+    static QString writeFile(const QTemporaryDir& directory, const QString& name, const QByteArray& bytes)
+    {
+        const QString path = directory.filePath(name);
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("cannot write the test file %s", qPrintable(path));
+        return path;
     }
 
     QModelIndex entityIndex(const std::wstring& name) const { return entityRow(window_->getModel(), name); }

@@ -1,0 +1,128 @@
+#include "AecModel/TableFileReader.h"
+
+#include "AecModel/CsvReader.h"
+#include "AecModel/DelimiterSniffer.h"
+#include "AecModel/HeaderRowDetector.h"
+#include "AecModel/InputFile.h"
+#include "AecModel/SpreadsheetReaders.h"
+#include "AecModel/TextDecoder.h"
+#include "AecModel/TextEncodingDetector.h"
+#include "AecModel/ZipArchive.h"
+#include "Common/Exception.h"
+
+#include <fstream>
+#include <vector>
+
+namespace aec::model
+{
+
+namespace
+{
+
+// The rows that detection of a header row looks at.
+constexpr std::size_t sampledRows = 50;
+// Progress is told every so many records: often enough for a progress bar, rarely enough to cost
+// nothing.
+constexpr std::size_t recordsPerProgress = 4096;
+
+std::string readFile(const std::filesystem::path& file)
+{
+    std::ifstream stream = openInputFile(file);
+    std::error_code error;
+    const std::uintmax_t size = std::filesystem::file_size(file, error);
+    std::string bytes;
+    // Read in one go into a buffer of the file's size: no growth, no second copy.
+    if (!error)
+        bytes.resize(static_cast<std::size_t>(size));
+    stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    if (stream.gcount() != static_cast<std::streamsize>(bytes.size()) || stream.bad())
+        throw common::EException("the file cannot be read to its end; it may have been moved or changed");
+    return bytes;
+}
+
+void readDelimited(std::string_view text, char delimiter, CTableCells& cells, std::size_t rowLimit,
+                   const TableReadProgress& progress)
+{
+    CCsvReader reader(text, delimiter);
+    cells.reserveText(text.size());
+    std::vector<std::string> fields;
+    for (std::size_t records = 0; records < rowLimit && reader.next(fields); ++records)
+    {
+        for (const std::string& field : fields)
+            cells.addCell(field);
+        cells.endRow();
+        if (progress && records % recordsPerProgress == 0)
+            progress(static_cast<double>(reader.position()) / static_cast<double>(text.size()));
+    }
+}
+
+CTableFileReader::Result readText(std::string bytes, const TableReadChoices& choices, std::size_t rowLimit,
+                                  const TableReadProgress& progress)
+{
+    CTableFileReader::Result result;
+    TableReadSettings& settings = result.report.settings;
+    result.report.format = "CSV";
+    settings.encoding = choices.encoding.value_or(CTextEncodingDetector::detect(bytes));
+    const std::string text = CTextDecoder::toUtf8(std::move(bytes), settings.encoding);
+    if (text.find('\0') != std::string::npos)
+        throw common::EException("it holds binary data, not a table");
+    settings.delimiter = choices.delimiter.value_or(CDelimiterSniffer::sniff(text));
+    readDelimited(text, settings.delimiter, result.cells, rowLimit, progress);
+    return result;
+}
+
+CTableFileReader::Result readSpreadsheet(const std::string& bytes, std::size_t rowLimit,
+                                         const TableReadProgress& progress)
+{
+    const CZipArchive archive(bytes);
+    CTableFileReader::Result result;
+    SpreadsheetSheet sheet;
+    if (archive.contains("xl/workbook.xml"))
+    {
+        result.report.format = "XLSX";
+        sheet = readFirstXlsxWorksheet(archive, result.cells, rowLimit, progress);
+    }
+    else if (archive.contains("content.xml"))
+    {
+        result.report.format = "ODS";
+        sheet = readFirstOdsSheet(archive, result.cells, rowLimit, progress);
+    }
+    else
+        throw common::EException("it is a zip archive, not a spreadsheet");
+    result.report.sheetName = std::move(sheet.name);
+    result.report.sheetCount = sheet.sheetCount;
+    return result;
+}
+
+} // namespace
+
+CTableFileReader::Result CTableFileReader::read(const std::filesystem::path& file,
+                                                const TableReadChoices& choices, std::size_t rowLimit,
+                                                const TableReadProgress& progress)
+{
+    return readBytes(readFile(file), choices, rowLimit, progress);
+}
+
+CTableFileReader::Result CTableFileReader::readBytes(std::string bytes, const TableReadChoices& choices,
+                                                     std::size_t rowLimit, const TableReadProgress& progress)
+{
+    // Spreadsheets saved with a password are compound documents, as are those of the old binary
+    // format; neither can be read here.
+    if (std::string_view(bytes).starts_with("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1"))
+        throw common::EException(
+            "it is an encrypted spreadsheet or one in an old binary format; save it as .xlsx, .ods or CSV "
+            "without a password");
+    Result result = std::string_view(bytes).starts_with("PK\x03\x04")
+                        ? readSpreadsheet(bytes, rowLimit, progress)
+                        : readText(std::move(bytes), choices, rowLimit, progress);
+    result.report.settings.headerRow =
+        choices.headerRow.value_or(CHeaderRowDetector::detect(result.cells.firstRows(sampledRows)));
+    const bool headerRow = result.report.settings.headerRow && result.cells.rowCount() > 0;
+    result.report.settings.headerRow = headerRow;
+    result.report.rows = result.cells.rowCount() - (headerRow ? 1 : 0);
+    result.report.columns = result.cells.columnCount();
+    result.report.paddedRows = result.cells.shortRowCount(headerRow ? 1 : 0);
+    return result;
+}
+
+} // namespace aec::model

@@ -1,0 +1,52 @@
+#include "AecModel/TextEncodingDetector.h"
+
+#include "AecModel/Utf8Validation.h"
+
+#include <memory>
+#include <unicode/ucsdet.h>
+
+namespace aec::model
+{
+
+namespace
+{
+
+// ICU's detector weighs statistics of the text; a few tens of kilobytes are as telling as the whole.
+constexpr std::size_t detectionSample = 64 * 1024;
+
+std::string detectWithIcu(std::string_view bytes)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<UCharsetDetector, decltype(&ucsdet_close)> detector(ucsdet_open(&status),
+                                                                              &ucsdet_close);
+    const std::string_view sample = bytes.substr(0, detectionSample);
+    ucsdet_setText(detector.get(), sample.data(), static_cast<std::int32_t>(sample.size()), &status);
+    const UCharsetMatch* const match = ucsdet_detect(detector.get(), &status);
+    const char* const name = U_SUCCESS(status) && match != nullptr ? ucsdet_getName(match, &status) : nullptr;
+    if (U_FAILURE(status) || name == nullptr)
+        return "windows-1252";
+    const std::string_view detected = name;
+    // Windows-1252 is Latin-1 with printable characters where Latin-1 has control codes; spreadsheet
+    // programs on Windows write it, and it reads every Latin-1 text the same, as web browsers do too.
+    // UTF-8 cannot be right: the bytes are not valid UTF-8.
+    if (detected == "ISO-8859-1" || detected == "UTF-8")
+        return "windows-1252";
+    return std::string(detected);
+}
+
+} // namespace
+
+std::string CTextEncodingDetector::detect(std::string_view bytes)
+{
+    if (bytes.starts_with("\xEF\xBB\xBF"))
+        return "UTF-8";
+    if (bytes.starts_with("\xFF\xFE"))
+        return "UTF-16LE";
+    if (bytes.starts_with("\xFE\xFF"))
+        return "UTF-16BE";
+    if (!firstInvalidUtf8Line(bytes))
+        return "UTF-8";
+    return detectWithIcu(bytes);
+}
+
+} // namespace aec::model
