@@ -22,7 +22,6 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -32,13 +31,6 @@
 #include <QTest>
 #include <QTimer>
 #include <memory>
-
-#define VERIFY_EMPTY(text)                                                                                   \
-    do                                                                                                       \
-    {                                                                                                        \
-        const QString mismatch = (text);                                                                     \
-        QVERIFY2(mismatch.isEmpty(), qPrintable(mismatch));                                                  \
-    } while (false)
 
 namespace aec::desktop
 {
@@ -248,11 +240,7 @@ private Q_SLOTS:
     {
         QTemporaryDir directory;
         QVERIFY(directory.isValid());
-        const QString csv = directory.filePath("Lintels.csv");
-        QFile file(csv);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("Mark,Span,Load\nL1,1200\nL2,2400,12\n");
-        file.close();
+        const QString csv = writeTestFile(directory, "Lintels.csv", "Mark,Span,Load\nL1,1200\nL2,2400,12\n");
         // The host's request for a table file comes up as a file dialog.
         onNextDialog<QFileDialog>(
             [&csv](QFileDialog& dialog)
