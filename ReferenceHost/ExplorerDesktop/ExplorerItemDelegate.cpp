@@ -34,7 +34,7 @@ const std::map<EntityCollection, KindIcon>& kindIcons()
         {EntityCollection::Sheets, {"x-office-document", QStyle::SP_FileIcon}},
         {EntityCollection::Tables, {"x-office-spreadsheet", QStyle::SP_FileDialogDetailedView}},
         {EntityCollection::Assemblies, {"package-x-generic", QStyle::SP_DriveHDIcon}},
-        {EntityCollection::Materials, {"applications-graphics", QStyle::SP_DialogApplyButton}},
+        {EntityCollection::Materials, {"applications-graphics", QStyle::SP_FileDialogContentsView}},
         {EntityCollection::DoorStyles, {"go-jump", QStyle::SP_ArrowRight}},
         {EntityCollection::WindowStyles, {"window-new", QStyle::SP_TitleBarNormalButton}},
         {EntityCollection::ReinforcementStyles, {"preferences-system", QStyle::SP_BrowserReload}},

@@ -113,6 +113,8 @@ CMainWindow::CMainWindow(host::CExplorerSession& session, QWidget* parent)
         statusBar()->showMessage(QString::fromStdWString(last));
     setProjectPath(QString());
     updateActions();
+    // The tree is where the user works; the filter box is only the first widget in tab order.
+    tree_->setFocus();
 }
 
 CMainWindow::~CMainWindow()

@@ -72,7 +72,7 @@ private Q_SLOTS:
         CExplorerItemModel& model = window_->getModel();
         groupByTopic(0);
         tree.expand(model.index(0, 0));
-        tree.expand(model.index(0, 0, model.index(0, 0)));
+        tree.expand(entityIndex(L"Cover sheet").parent());
         const QModelIndex glass = entityIndex(L"Glass 8mm");
         tree.selectionModel()->select(glass, QItemSelectionModel::ClearAndSelect);
         const QStringList folds = explorerFolds();
@@ -95,9 +95,12 @@ private Q_SLOTS:
         QCOMPARE(shownEntities(), QStringList{"Holzfaserdämmung"});
 
         // Folding while filtering, and selecting among the matches, leave hidden selections alone.
-        typeFilter("fenetre");
-        tree.collapse(tree.fromItemModel(entityIndex(L"Fenêtre 3")).parent());
+        typeFilter("cover");
+        const QModelIndex cover = tree.fromItemModel(entityIndex(L"Cover sheet"));
+        tree.collapse(cover.parent());
+        tree.collapse(cover.parent().parent());
         QCOMPARE(explorerFolds(), folds);
+        typeFilter("fenetre");
         QCOMPARE(session_->getProject().getPreferences().toJson().dump(), preferences);
         tree.selectionModel()->select(tree.fromItemModel(entityIndex(L"Fenêtre 3")),
                                       QItemSelectionModel::ClearAndSelect);
@@ -111,6 +114,8 @@ private Q_SLOTS:
         QVERIFY(model.setData(entityIndex(L"Sheet S-10"), QString("Fensterplan")));
         typeFilter("fen");
         QCOMPARE(shownEntities(), (QStringList{"Fensterplan", "Fenêtre 3"}));
+        QTRY_VERIFY2(window_->getStatusCounts().text().contains("2 selected"),
+                     "the hidden selected entity counts");
 
         window_->getFilterBox().clear();
         QVERIFY(!tree.isFiltering());
