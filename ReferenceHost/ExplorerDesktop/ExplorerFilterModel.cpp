@@ -25,7 +25,16 @@ bool CExplorerFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex& so
 {
     const QModelIndex index = sourceModel()->index(sourceRow, 0, sourceParent);
     const auto kind = static_cast<CExplorerTreeNode::Kind>(index.data(CExplorerItemModel::KindRole).toInt());
-    return kind == CExplorerTreeNode::Kind::Entity && matcher_.matches(index.data(Qt::EditRole).toString());
+    return kind == CExplorerTreeNode::Kind::Entity && matcher_.matchesFolded(foldedName(index));
+}
+
+const QString& CExplorerFilterModel::foldedName(const QModelIndex& sourceIndex) const
+{
+    const QString name = sourceIndex.data(Qt::EditRole).toString();
+    FoldedName& kept = foldedNames_[sourceIndex.internalPointer()];
+    if (kept.folded.isNull() || kept.name != name)
+        kept = FoldedName{name, CNameMatcher::fold(name)};
+    return kept.folded;
 }
 
 } // namespace aec::desktop

@@ -3,6 +3,7 @@
 #include "ExplorerDesktop/NameMatcher.h"
 
 #include <QSortFilterProxyModel>
+#include <unordered_map>
 
 namespace aec::desktop
 {
@@ -25,7 +26,21 @@ protected:
     bool filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const override;
 
 private:
+    struct FoldedName
+    {
+        QString name;
+        QString folded;
+    };
+
+    const QString& foldedName(const QModelIndex& sourceIndex) const;
+
     CNameMatcher matcher_;
+    // Folding a name costs far more than looking for the words in it, and every key the user types
+    // asks about every name again (some twice, for the rows above them), so folded names are kept
+    // by row for the filter's lifetime. Rows are told apart by their internal pointers, which
+    // cost nothing to hash where names would; the name is compared, so a renamed entity, or a
+    // new row where a removed one was, is folded again.
+    mutable std::unordered_map<const void*, FoldedName> foldedNames_;
 };
 
 } // namespace aec::desktop

@@ -42,7 +42,9 @@
 #include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTimer>
 #include <QVBoxLayout>
+#include <chrono>
 
 namespace aec::desktop
 {
@@ -52,6 +54,8 @@ namespace
 
 // The property that ties a menu action to the GUI command it runs.
 constexpr const char* commandProperty = "guiCommand";
+// How long typing in the filter box pauses before the tree follows it.
+constexpr std::chrono::milliseconds filterTypingPause{150};
 
 } // namespace
 
@@ -352,7 +356,26 @@ QWidget* CMainWindow::makeExplorerPanel()
     filterBox_->setObjectName("filter");
     filterBox_->setPlaceholderText(tr("Filter by name"));
     filterBox_->setClearButtonEnabled(true);
-    connect(filterBox_, &QLineEdit::textChanged, tree_, &CExplorerTreeView::setNameFilter);
+    // Filtering 100,000 names takes a moment, so the tree follows the box once the typing pauses,
+    // or at once on Enter; clearing it gives the tree back at once, which costs next to nothing.
+    auto* const typingPause = new QTimer(filterBox_);
+    typingPause->setSingleShot(true);
+    typingPause->setInterval(filterTypingPause);
+    const auto applyFilter = [this, typingPause]
+    {
+        typingPause->stop();
+        tree_->setNameFilter(filterBox_->text());
+    };
+    connect(typingPause, &QTimer::timeout, this, applyFilter);
+    connect(filterBox_, &QLineEdit::returnPressed, this, applyFilter);
+    connect(filterBox_, &QLineEdit::textChanged, this,
+            [typingPause, applyFilter](const QString& text)
+            {
+                if (text.isEmpty())
+                    applyFilter();
+                else
+                    typingPause->start();
+            });
     // Escape gives the tree back as the user left it.
     auto* const clear =
         new QShortcut(QKeySequence(Qt::Key_Escape), filterBox_, filterBox_, &QLineEdit::clear);

@@ -45,11 +45,8 @@ void CNameMatcher::setFilter(const QString& filter)
     words_ = fold(filter).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
-bool CNameMatcher::matches(const QString& name) const
+bool CNameMatcher::matchesFolded(const QString& foldedName) const
 {
-    if (words_.isEmpty())
-        return true;
-    const QString& foldedName = folded(name);
     return std::ranges::all_of(words_,
                                [&foldedName](const QString& word) { return foldedName.contains(word); });
 }
@@ -69,14 +66,6 @@ QString CNameMatcher::fold(const QString& text)
         bare.append(character.isSpace() ? QLatin1Char(' ') : character);
     }
     return withoutLeadingZeros(bare.toCaseFolded());
-}
-
-const QString& CNameMatcher::folded(const QString& name) const
-{
-    auto found = foldedNames_.find(name);
-    if (found == foldedNames_.end())
-        found = foldedNames_.insert(name, fold(name));
-    return *found;
 }
 
 } // namespace aec::desktop

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QHash>
 #include <QString>
 #include <QStringList>
 
@@ -11,9 +10,6 @@ namespace aec::desktop
 // is the one users know from file browsers: every word of the filter occurs somewhere in the name,
 // in any order, without regard to case or accents ("cafe" finds "Café"), and digit runs count by
 // their value, as the tree's natural order does ("level 2" finds "Level 02").
-//
-// Folding a name costs far more than looking for the words in it, and the filter asks about every
-// name again at each key the user types, so folded names are kept for the matcher's lifetime.
 class CNameMatcher
 {
 public:
@@ -21,8 +17,8 @@ public:
 
     // No words: everything matches.
     bool isEmpty() const noexcept { return words_.isEmpty(); }
-    bool matches(const QString& name) const;
-    // Keeps the folded names, but matches the new filter's words from now on.
+    // Whether the name, as fold() made it, holds every word of the filter.
+    bool matchesFolded(const QString& foldedName) const;
     void setFilter(const QString& filter);
 
     // The name as the matcher compares it: compatibility-decomposed, without combining marks,
@@ -30,10 +26,7 @@ public:
     static QString fold(const QString& text);
 
 private:
-    const QString& folded(const QString& name) const;
-
     QStringList words_;
-    mutable QHash<QString, QString> foldedNames_;
 };
 
 } // namespace aec::desktop

@@ -78,8 +78,9 @@ private Q_SLOTS:
         const QStringList folds = explorerFolds();
         const std::string preferences = session_->getProject().getPreferences().toJson().dump();
 
+        QTest::keyClicks(&window_->getFilterBox(), "fenetre");
+        QTRY_VERIFY2(tree.isFiltering(), "the tree follows once typing pauses");
         typeFilter("fenetre");
-        QVERIFY(tree.isFiltering());
         QCOMPARE(shownEntities(), QStringList{"Fenêtre 3"});
         const QModelIndex fenetre = tree.fromItemModel(entityIndex(L"Fenêtre 3"));
         QVERIFY2(tree.isExpanded(fenetre.parent()) && tree.isExpanded(fenetre.parent().parent()),
@@ -316,6 +317,8 @@ private:
         QLineEdit& box = window_->getFilterBox();
         box.clear();
         QTest::keyClicks(&box, text);
+        // The tree follows the box when typing pauses, or at once on Enter.
+        QTest::keyClick(&box, Qt::Key_Return);
         CExplorerTreeView& tree = window_->getTreeView();
         if (tree.isFiltering() && (filterTester_ == nullptr || filterTester_->model() != tree.model()))
             filterTester_ = std::make_unique<QAbstractItemModelTester>(
