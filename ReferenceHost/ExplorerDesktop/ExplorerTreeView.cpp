@@ -1,5 +1,6 @@
 #include "ExplorerDesktop/ExplorerTreeView.h"
 
+#include "ExplorerDesktop/CommandRunner.h"
 #include "ExplorerDesktop/EntityDragData.h"
 #include "ExplorerDesktop/ExplorerFilterModel.h"
 #include "ExplorerDesktop/ExplorerItemModel.h"
@@ -50,8 +51,8 @@ void collectFoldable(const QAbstractItemModel& model, const QModelIndex& index,
 } // namespace
 
 CExplorerTreeView::CExplorerTreeView(CExplorerItemModel& model, CExplorerSelectionModel& selection,
-                                     host::CExplorerPanel& panel, QWidget* parent)
-    : QTreeView(parent), model_(model), selection_(selection)
+                                     host::CExplorerPanel& panel, CCommandRunner& runner, QWidget* parent)
+    : QTreeView(parent), model_(model), selection_(selection), panel_(panel), runner_(runner)
 {
     setModel(&model_);
     useSelectionModel(selection_);
@@ -82,7 +83,7 @@ CExplorerTreeView::CExplorerTreeView(CExplorerItemModel& model, CExplorerSelecti
                     setExpanded(index, expanded);
             });
     renameRequested_ =
-        panel.renameRequestedSignal().connect([this](const EntityId& entity) { startRename(entity); });
+        panel_.renameRequestedSignal().connect([this](const EntityId& entity) { startRename(entity); });
     showFoldStates(QModelIndex());
 }
 
@@ -272,9 +273,26 @@ void CExplorerTreeView::foldThroughExplorer(const QModelIndex& itemIndex, bool e
     // Subgroups fold before their group, so that each fold changes what the user sees at once.
     if (!expanded)
         std::reverse(foldable.begin(), foldable.end());
-    for (const QPersistentModelIndex& index : foldable)
-        if (index.isValid())
-            model_.setExpanded(index, expanded);
+    // Each fold through the model would have it read the whole tree again; as one change of the
+    // panel's, it reads the tree once. Until then the model shows the folds from before, which
+    // say what to toggle, and its rows keep their numbers.
+    runner_.run(
+        [this, &foldable, expanded]
+        {
+            panel_.changeAsOne(
+                [this, &foldable, expanded]
+                {
+                    for (const QPersistentModelIndex& index : foldable)
+                    {
+                        if (model_.isExpanded(index) == expanded)
+                            continue;
+                        if (index.parent().isValid())
+                            panel_.toggleSubgroup(index.parent().row(), index.row());
+                        else
+                            panel_.toggleGroup(index.row());
+                    }
+                });
+        });
 }
 
 void CExplorerTreeView::startFiltering(const QString& filter)

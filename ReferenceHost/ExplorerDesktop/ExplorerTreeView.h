@@ -14,6 +14,7 @@ class CExplorerPanel;
 namespace aec::desktop
 {
 
+class CCommandRunner;
 class CExplorerFilterModel;
 class CExplorerItemModel;
 class CExplorerSelectionModel;
@@ -39,7 +40,7 @@ class CExplorerTreeView final : public QTreeView
 
 public:
     CExplorerTreeView(CExplorerItemModel& model, CExplorerSelectionModel& selection,
-                      host::CExplorerPanel& panel, QWidget* parent = nullptr);
+                      host::CExplorerPanel& panel, CCommandRunner& runner, QWidget* parent = nullptr);
     ~CExplorerTreeView() override;
 
     // Opens the entity's name for editing; false when the tree does not show it as renamable.
@@ -84,6 +85,8 @@ private:
 
     CExplorerItemModel& model_;
     CExplorerSelectionModel& selection_;
+    host::CExplorerPanel& panel_;
+    CCommandRunner& runner_;
     CExplorerFilterModel* filter_ = nullptr;
     CFilteredSelectionModel* filteredSelection_ = nullptr;
     CTopicDropHandler* dropHandler_ = nullptr;

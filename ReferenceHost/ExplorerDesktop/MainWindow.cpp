@@ -63,7 +63,7 @@ CMainWindow::CMainWindow(host::CExplorerSession& session, QWidget* parent)
     : QMainWindow(parent), session_(session), runner_(new CCommandRunner(this)),
       model_(new CExplorerItemModel(session_, *runner_, this)),
       selection_(new CExplorerSelectionModel(*model_, session_.getPanel(), *runner_, this)),
-      tree_(new CExplorerTreeView(*model_, *selection_, session_.getPanel())),
+      tree_(new CExplorerTreeView(*model_, *selection_, session_.getPanel(), *runner_)),
       groupingBar_(new CGroupingBar(session_.getGui(), *runner_)), documents_(new CDocumentArea()),
       dialogs_(new CHostDialogs(session_.getHostServices(), *this)),
       delegate_(new CExplorerItemDelegate(session_, this)),
