@@ -118,8 +118,11 @@ private Q_SLOTS:
         QTRY_VERIFY2(window_->getStatusCounts().text().contains("2 selected"),
                      "the hidden selected entity counts");
 
-        window_->getFilterBox().clear();
-        QVERIFY(!tree.isFiltering());
+        window_->activateWindow();
+        window_->getFilterBox().setFocus();
+        QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+        QTest::keyClick(&window_->getFilterBox(), Qt::Key_Escape);
+        QVERIFY2(!tree.isFiltering(), "Escape clears the filter");
         QCOMPARE(tree.model(), &model);
         QCOMPARE(explorerFolds(), selectedFolds);
         QCOMPARE(session_->getProject().getPreferences().toJson().dump(), selectedPreferences);
