@@ -72,8 +72,11 @@ QIcon CExplorerItemDelegate::entityIcon(const QModelIndex& index) const
     const auto found = kindIcons().find(entity->getCollection());
     if (found == kindIcons().end())
         return {};
-    return QIcon::fromTheme(QString::fromLatin1(found->second.themeName),
-                            QApplication::style()->standardIcon(found->second.fallback));
+    auto [icon, made] = icons_.try_emplace(entity->getCollection());
+    if (made)
+        icon->second = QIcon::fromTheme(QString::fromLatin1(found->second.themeName),
+                                        QApplication::style()->standardIcon(found->second.fallback));
+    return icon->second;
 }
 
 QString CExplorerItemDelegate::entityToolTip(const QModelIndex& index) const

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "aec/EntityCollection.h"
+
 #include <QIcon>
 #include <QStyledItemDelegate>
+#include <map>
 
 namespace aec::host
 {
@@ -36,6 +39,9 @@ protected:
 
 private:
     host::CExplorerSession& session_;
+    // Looking an icon up in the theme costs more than drawing the row, and every row is drawn anew
+    // at each scroll; one icon per kind is made once.
+    mutable std::map<EntityCollection, QIcon> icons_;
 };
 
 } // namespace aec::desktop
