@@ -16,7 +16,8 @@ QString menuText(const CContextMenuItem& item)
     return QString::fromStdWString(item.getText()).replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
-void fill(QMenu& menu, const std::vector<CContextMenuItem>& items, const QVariantList& parentPath)
+void fill(QMenu& menu, const std::vector<CContextMenuItem>& items, const ContextMenuShortcuts& shortcuts,
+          const QVariantList& parentPath)
 {
     for (std::size_t index = 0; index < items.size(); ++index)
     {
@@ -32,20 +33,26 @@ void fill(QMenu& menu, const std::vector<CContextMenuItem>& items, const QVarian
         {
             QMenu* const submenu = menu.addMenu(menuText(item));
             submenu->setEnabled(item.isEnabled());
-            fill(*submenu, item.getSubItems(), path);
+            fill(*submenu, item.getSubItems(), shortcuts, path);
             continue;
         }
         QAction* const action = menu.addAction(menuText(item));
         action->setEnabled(item.isEnabled());
         action->setData(path);
+        if (const auto shortcut = shortcuts.find(item.getIdentifier()); shortcut != shortcuts.end())
+        {
+            action->setShortcut(shortcut->second);
+            action->setShortcutVisibleInContextMenu(true);
+        }
     }
 }
 
 } // namespace
 
-void fillContextMenu(QMenu& menu, const std::vector<CContextMenuItem>& items)
+void fillContextMenu(QMenu& menu, const std::vector<CContextMenuItem>& items,
+                     const ContextMenuShortcuts& shortcuts)
 {
-    fill(menu, items, QVariantList());
+    fill(menu, items, shortcuts, QVariantList());
 }
 
 std::vector<std::size_t> contextMenuPath(const QAction& action)

@@ -4,6 +4,7 @@
 #include "AecModel/SampleProject.h"
 #include "Common/Exception.h"
 #include "ExplorerDesktop/MainWindow.h"
+#include "ExplorerDesktop/OpenFailureDialog.h"
 #include "ExplorerShell/ShellCommandInterpreter.h"
 #include "HostFrame/ExplorerSession.h"
 
@@ -40,7 +41,12 @@ int CDesktopProgram::run()
     }
     catch (const common::EException& failure)
     {
-        return fail(QString::fromUtf8(failure.what()));
+        const QString message = QString::fromUtf8(failure.what());
+        // Someone who started the program from a desktop sees no terminal; a picture taken
+        // without anyone at the screen must not wait for a click.
+        if (options_.screenshotPath.isEmpty())
+            COpenFailureDialog(options_.projectPath, message).exec();
+        return fail(message);
     }
 
     // The window comes after the script, so that the script's questions take its own answers

@@ -1,33 +1,50 @@
 #include "ExplorerDesktop/MainWindow.h"
 
+#include "AecApp/CutCopyPasteContextMenuItems.h"
+#include "AecApp/DeleteCommandMenuItems.h"
+#include "AecApp/EditPropertiesMenuItems.h"
 #include "AecModel/Project.h"
+#include "AecModel/ProjectFile.h"
 #include "Common/Check.h"
+#include "Common/Exception.h"
 #include "ExplorerDesktop/CommandRunner.h"
 #include "ExplorerDesktop/ContextMenuBuilder.h"
 #include "ExplorerDesktop/DocumentArea.h"
+#include "ExplorerDesktop/ExplorerItemDelegate.h"
 #include "ExplorerDesktop/ExplorerItemModel.h"
 #include "ExplorerDesktop/ExplorerSelectionModel.h"
 #include "ExplorerDesktop/ExplorerTreeView.h"
+#include "ExplorerDesktop/GroupContextMenu.h"
 #include "ExplorerDesktop/GroupingBar.h"
 #include "ExplorerDesktop/HostDialogs.h"
+#include "ExplorerDesktop/OpenFailureDialog.h"
+#include "ExplorerDesktop/StatusCounts.h"
+#include "ExplorerDesktop/SystemClipboardBridge.h"
+#include "ExplorerDesktop/TopicDropHandler.h"
 #include "HostFrame/ExplorerPanel.h"
 #include "HostFrame/ExplorerSession.h"
 #include "HostFrame/Gui.h"
 #include "HostFrame/StatusService.h"
 #include "HostServices/HostServices.h"
+#include "ProjectExplorerLib/ProjectExplorerContextMenuItemsProvider.h"
 #include "aec/Commands.h"
 #include "aec/ProjectExplorerEntityController.h"
 #include "aec/ProjectExplorerGroupInfo.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTimer>
 #include <QVBoxLayout>
+#include <chrono>
 
 namespace aec::desktop
 {
@@ -37,6 +54,8 @@ namespace
 
 // The property that ties a menu action to the GUI command it runs.
 constexpr const char* commandProperty = "guiCommand";
+// How long typing in the filter box pauses before the tree follows it.
+constexpr std::chrono::milliseconds filterTypingPause{150};
 
 } // namespace
 
@@ -44,21 +63,22 @@ CMainWindow::CMainWindow(host::CExplorerSession& session, QWidget* parent)
     : QMainWindow(parent), session_(session), runner_(new CCommandRunner(this)),
       model_(new CExplorerItemModel(session_, *runner_, this)),
       selection_(new CExplorerSelectionModel(*model_, session_.getPanel(), *runner_, this)),
-      tree_(new CExplorerTreeView(*model_, *selection_, session_.getPanel())),
+      tree_(new CExplorerTreeView(*model_, *selection_, session_.getPanel(), *runner_)),
       groupingBar_(new CGroupingBar(session_.getGui(), *runner_)), documents_(new CDocumentArea()),
-      dialogs_(new CHostDialogs(session_.getHostServices(), *this))
+      dialogs_(new CHostDialogs(session_.getHostServices(), *this)),
+      delegate_(new CExplorerItemDelegate(session_, this)),
+      topicDrop_(std::make_unique<CTopicDropHandler>(*model_, session_, *runner_)),
+      clipboardBridge_(new CSystemClipboardBridge(session_.getHostServices().getClipboard(),
+                                                  *QGuiApplication::clipboard(), *runner_, this)),
+      counts_(new CStatusCounts(*model_, *selection_))
 {
-    auto* const explorerPanel = new QWidget();
-    auto* const explorerLayout = new QVBoxLayout(explorerPanel);
-    explorerLayout->setContentsMargins(0, 0, 0, 0);
-    explorerLayout->addWidget(groupingBar_);
-    explorerLayout->addWidget(tree_, 1);
     auto* const splitter = new QSplitter(this);
-    splitter->addWidget(explorerPanel);
+    splitter->addWidget(makeExplorerPanel());
     splitter->addWidget(documents_);
     splitter->setStretchFactor(1, 1);
     splitter->setSizes({initialSize.width() / 3, initialSize.width() * 2 / 3});
     setCentralWidget(splitter);
+    statusBar()->addPermanentWidget(counts_);
     makeMenus();
     resize(initialSize);
 
@@ -70,7 +90,8 @@ CMainWindow::CMainWindow(host::CExplorerSession& session, QWidget* parent)
                     groupingBar_->showGroup(*group);
             });
     connect(tree_, &QWidget::customContextMenuRequested, this, &CMainWindow::showContextMenu);
-    connect(tree_, &QAbstractItemView::activated, this, &CMainWindow::openEntity);
+    connect(tree_, &QAbstractItemView::activated, this,
+            [this](const QModelIndex& index) { openEntity(tree_->toItemModel(index)); });
     connect(runner_, &CCommandRunner::failed, this, &CMainWindow::showFailure);
     connect(runner_, &CCommandRunner::finished, this, &CMainWindow::updateActions);
     connect(selection_, &QItemSelectionModel::selectionChanged, this, &CMainWindow::updateActions);
@@ -96,6 +117,8 @@ CMainWindow::CMainWindow(host::CExplorerSession& session, QWidget* parent)
         statusBar()->showMessage(QString::fromStdWString(last));
     setProjectPath(QString());
     updateActions();
+    // The tree is where the user works; the filter box is only the first widget in tab order.
+    tree_->setFocus();
 }
 
 CMainWindow::~CMainWindow()
@@ -105,13 +128,34 @@ CMainWindow::~CMainWindow()
     disconnect(runner_, nullptr, this, nullptr);
     disconnect(model_, nullptr, this, nullptr);
     disconnect(selection_, nullptr, this, nullptr);
+    tree_->setDropHandler(nullptr);
     status_.disconnect();
     session_.getHostServices().getProxyAppGui().setOpenCallback(nullptr);
 }
 
 bool CMainWindow::openProject(const QString& path)
 {
-    if (!runner_->run([this, &path] { session_.load(std::filesystem::path(path.toStdWString())); }))
+    // A file that does not read is the user's to mend, so the user learns where reading stopped;
+    // any other failure is the runner's to report.
+    std::optional<QString> unreadable;
+    const bool opened = runner_->run(
+        [this, &path, &unreadable]
+        {
+            std::unique_ptr<model::CProject> project;
+            try
+            {
+                project = model::CProjectFile::load(std::filesystem::path(path.toStdWString()));
+            }
+            catch (const common::EException& failure)
+            {
+                unreadable = QString::fromUtf8(failure.what());
+                return;
+            }
+            session_.open(std::move(project));
+        });
+    if (unreadable)
+        showOpenFailure(path, *unreadable);
+    if (!opened || unreadable)
         return false;
     setProjectPath(path);
     return true;
@@ -173,6 +217,7 @@ void CMainWindow::makeMenus()
         addCommandAction(edit, "properties", tr("P&roperties..."), QKeySequence(), commands::editProperties);
     properties->setShortcuts({QKeySequence(Qt::ALT | Qt::Key_Return), QKeySequence(Qt::ALT | Qt::Key_Enter)});
     connect(&edit, &QMenu::aboutToShow, this, &CMainWindow::updateActions);
+    makeViewMenu();
 }
 
 QAction* CMainWindow::addAction(QMenu& menu, const QString& name, const QString& text,
@@ -245,6 +290,17 @@ void CMainWindow::showFailure(const QString& message)
 
 void CMainWindow::showContextMenu(const QPoint& position)
 {
+    const QModelIndex itemIndex = tree_->toItemModel(tree_->indexAt(position));
+    const auto kind =
+        static_cast<CExplorerTreeNode::Kind>(itemIndex.data(CExplorerItemModel::KindRole).toInt());
+    if (itemIndex.isValid() && kind != CExplorerTreeNode::Kind::Entity)
+        showGroupContextMenu(itemIndex, position);
+    else
+        showExplorerContextMenu(position);
+}
+
+void CMainWindow::showExplorerContextMenu(const QPoint& position)
+{
     host::CGui& gui = session_.getGui();
     if (!runner_->run(
             [&gui, position] {
@@ -252,12 +308,119 @@ void CMainWindow::showContextMenu(const QPoint& position)
             }))
         return;
     QMenu menu;
-    fillContextMenu(menu, gui.getLastContextMenu());
+    fillContextMenu(menu, gui.getLastContextMenu(), explorerMenuShortcuts());
     QAction* const chosen = menu.exec(tree_->viewport()->mapToGlobal(position));
     if (chosen == nullptr)
         return;
     const std::vector<std::size_t> path = contextMenuPath(*chosen);
     runner_->run([&gui, &path] { gui.chooseContextMenuItem(path); });
+}
+
+void CMainWindow::showGroupContextMenu(const QModelIndex& itemIndex, const QPoint& position)
+{
+    CGroupContextMenu menu(itemIndex, *model_, *tree_, session_, *runner_);
+    menu.exec(tree_->viewport()->mapToGlobal(position));
+    updateActions();
+}
+
+void CMainWindow::showContextMenuOfCurrent()
+{
+    const QModelIndex current = tree_->currentIndex();
+    tree_->scrollTo(current);
+    const QRect row = tree_->visualRect(current);
+    // Beside the row's text, as a right click on it would; the tree's corner without a row.
+    showContextMenu(row.isValid() ? QPoint(row.left() + row.height(), row.center().y()) : QPoint(0, 0));
+}
+
+ContextMenuShortcuts CMainWindow::explorerMenuShortcuts() const
+{
+    // The explorer's items run the same commands as the Edit menu, under the same keys.
+    const auto keyOf = [this](const char* action)
+    {
+        return getAction(action).shortcut();
+    };
+    return {
+        {std::string(CCutCopyPasteContextMenuItems::cutIdentifier), keyOf("cut")},
+        {std::string(CCutCopyPasteContextMenuItems::copyIdentifier), keyOf("copy")},
+        {std::string(CCutCopyPasteContextMenuItems::pasteIdentifier), keyOf("paste")},
+        {std::string(CDeleteCommandMenuItems::identifier), keyOf("delete")},
+        {std::string(CEditPropertiesMenuItems::identifier), keyOf("properties")},
+        {std::string(project_explorer::CProjectExplorerContextMenuItemsProvider::renameIdentifier),
+         keyOf("rename")},
+    };
+}
+
+QWidget* CMainWindow::makeExplorerPanel()
+{
+    filterBox_ = new QLineEdit();
+    filterBox_->setObjectName("filter");
+    filterBox_->setPlaceholderText(tr("Filter by name"));
+    filterBox_->setClearButtonEnabled(true);
+    // Filtering 100,000 names takes a moment, so the tree follows the box once the typing pauses,
+    // or at once on Enter; clearing it gives the tree back at once, which costs next to nothing.
+    auto* const typingPause = new QTimer(filterBox_);
+    typingPause->setSingleShot(true);
+    typingPause->setInterval(filterTypingPause);
+    const auto applyFilter = [this, typingPause]
+    {
+        typingPause->stop();
+        tree_->setNameFilter(filterBox_->text());
+    };
+    connect(typingPause, &QTimer::timeout, this, applyFilter);
+    connect(filterBox_, &QLineEdit::returnPressed, this, applyFilter);
+    connect(filterBox_, &QLineEdit::textChanged, this,
+            [typingPause, applyFilter](const QString& text)
+            {
+                if (text.isEmpty())
+                    applyFilter();
+                else
+                    typingPause->start();
+            });
+    // Escape gives the tree back as the user left it.
+    auto* const clear =
+        new QShortcut(QKeySequence(Qt::Key_Escape), filterBox_, filterBox_, &QLineEdit::clear);
+    clear->setContext(Qt::WidgetShortcut);
+
+    tree_->setItemDelegate(delegate_);
+    tree_->setDropHandler(topicDrop_.get());
+    auto* const contextMenuKey = new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_F10), tree_);
+    contextMenuKey->setContext(Qt::WidgetShortcut);
+    connect(contextMenuKey, &QShortcut::activated, this, &CMainWindow::showContextMenuOfCurrent);
+
+    auto* const panel = new QWidget();
+    auto* const layout = new QVBoxLayout(panel);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(filterBox_);
+    layout->addWidget(groupingBar_);
+    layout->addWidget(tree_, 1);
+    return panel;
+}
+
+void CMainWindow::makeViewMenu()
+{
+    QMenu& view = *menuBar()->addMenu(tr("&View"));
+    connect(addAction(view, "findByName", tr("&Filter by name"), QKeySequence::Find), &QAction::triggered,
+            this,
+            [this]
+            {
+                filterBox_->setFocus();
+                filterBox_->selectAll();
+            });
+    view.addSeparator();
+    QAction* const expandAll = addAction(view, "expandAll", tr("&Expand all"), QKeySequence());
+    expandAll->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Plus),
+                             QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Equal)});
+    connect(expandAll, &QAction::triggered, this, [this] { tree_->unfoldAll(QModelIndex()); });
+    connect(addAction(view, "collapseAll", tr("&Collapse all"),
+                      QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Minus)),
+            &QAction::triggered, this, [this] { tree_->foldAll(QModelIndex()); });
+}
+
+void CMainWindow::showOpenFailure(const QString& path, const QString& failure)
+{
+    auto* const box = new COpenFailureDialog(path, failure, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
 }
 
 void CMainWindow::openFromDialog()

@@ -1,8 +1,12 @@
 #pragma once
 
+#include "ExplorerDesktop/ContextMenuBuilder.h"
+
 #include <QMainWindow>
 #include <QSize>
 #include <QString>
+
+class QLineEdit;
 #include <boost/signals2/connection.hpp>
 #include <memory>
 
@@ -16,11 +20,15 @@ namespace aec::desktop
 
 class CCommandRunner;
 class CDocumentArea;
+class CExplorerItemDelegate;
 class CExplorerItemModel;
 class CExplorerSelectionModel;
 class CExplorerTreeView;
 class CGroupingBar;
 class CHostDialogs;
+class CStatusCounts;
+class CSystemClipboardBridge;
+class CTopicDropHandler;
 
 // The desktop program's window over an explorer session: the explorer's tree with the grouping
 // bar of the group the user works in, the opened entities beside it, the File and Edit menus, and
@@ -48,6 +56,9 @@ public:
     CExplorerTreeView& getTreeView() noexcept { return *tree_; }
     CGroupingBar& getGroupingBar() noexcept { return *groupingBar_; }
     CDocumentArea& getDocumentArea() noexcept { return *documents_; }
+    QLineEdit& getFilterBox() noexcept { return *filterBox_; }
+    CExplorerItemDelegate& getItemDelegate() noexcept { return *delegate_; }
+    CStatusCounts& getStatusCounts() noexcept { return *counts_; }
     // The menus' actions, by their object names ("undo", "delete", "import", ...), for tests.
     QAction& getAction(const QString& name) const;
 
@@ -59,6 +70,15 @@ private:
     void updateActions();
     void showFailure(const QString& message);
     void showContextMenu(const QPoint& position);
+    // The explorer's menu for the selection, or a group's own for a group or subgroup row.
+    void showExplorerContextMenu(const QPoint& position);
+    void showGroupContextMenu(const QModelIndex& itemIndex, const QPoint& position);
+    // For Shift+F10 and the menu key: the menu of the current row, shown beside it.
+    void showContextMenuOfCurrent();
+    ContextMenuShortcuts explorerMenuShortcuts() const;
+    QWidget* makeExplorerPanel();
+    void makeViewMenu();
+    void showOpenFailure(const QString& path, const QString& failure);
     void openFromDialog();
     void saveFromDialog(bool chooseFile);
     void openEntity(const QModelIndex& index);
@@ -74,6 +94,11 @@ private:
     CGroupingBar* groupingBar_;
     CDocumentArea* documents_;
     CHostDialogs* dialogs_;
+    QLineEdit* filterBox_ = nullptr;
+    CExplorerItemDelegate* delegate_;
+    std::unique_ptr<CTopicDropHandler> topicDrop_;
+    CSystemClipboardBridge* clipboardBridge_;
+    CStatusCounts* counts_;
     boost::signals2::scoped_connection status_;
 };
 

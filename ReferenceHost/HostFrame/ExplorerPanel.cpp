@@ -114,6 +114,11 @@ void CExplorerPanel::changeSelection(const EntityIdSet& toAdd, const EntityIdSet
     changeTree([&handler, &toAdd, &toRemove] { handler.onSelectionChanged(toAdd, toRemove); });
 }
 
+void CExplorerPanel::changeAsOne(const std::function<void()>& operations)
+{
+    changeTree(operations);
+}
+
 bool CExplorerPanel::hasExplorer() const noexcept
 {
     return explorer_ != nullptr;

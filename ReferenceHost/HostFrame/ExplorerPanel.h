@@ -59,6 +59,9 @@ public:
     void toggleSubgroup(int groupIndex, int subgroupIndex);
     // The two sets must be disjoint.
     void changeSelection(const EntityIdSet& toAdd, const EntityIdSet& toRemove);
+    // Runs several of the operations above as one: treeChangedSignal fires once, at the end, so
+    // that a host program redraws once after unfolding a whole tree.
+    void changeAsOne(const std::function<void()>& operations);
 
     bool hasExplorer() const noexcept;
     // Only while an explorer is attached.

@@ -6,6 +6,8 @@
 #include "aec/ProjectExplorerGroup.h"
 #include "aec/ProjectExplorerSubgroup.h"
 
+#include <QFile>
+#include <QTemporaryDir>
 #include <QTreeView>
 
 namespace aec::desktop
@@ -127,6 +129,15 @@ QStringList subgroupNames(const CExplorerItemModel& model, int groupRow)
     for (int row = 0; row < model.rowCount(group); ++row)
         names.append(name(model.index(row, 0, group)));
     return names;
+}
+
+QString writeTestFile(const QTemporaryDir& directory, const QString& name, const QByteArray& content)
+{
+    const QString path = directory.filePath(name);
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write the test file %s", qPrintable(path));
+    return path;
 }
 
 } // namespace aec::desktop

@@ -5,7 +5,16 @@
 #include <QStringList>
 #include <string>
 
+class QTemporaryDir;
 class QTreeView;
+
+// Fails the test with the text unless it is empty: for the mismatch finders below.
+#define VERIFY_EMPTY(text)                                                                                   \
+    do                                                                                                       \
+    {                                                                                                        \
+        const QString mismatch = (text);                                                                     \
+        QVERIFY2(mismatch.isEmpty(), qPrintable(mismatch));                                                  \
+    } while (false)
 
 namespace aec
 {
@@ -32,6 +41,9 @@ IProjectExplorerGroup& groupAt(IProjectExplorer& explorer, int row);
 QModelIndex findEntityRow(const CExplorerItemModel& model, const std::wstring& name);
 // The row of the entity of that name, which the test relies on: the test ends when there is none.
 QModelIndex entityRow(const CExplorerItemModel& model, const std::wstring& name);
+// Writes the file of that name into the directory and returns its path; the test ends when it
+// cannot.
+QString writeTestFile(const QTemporaryDir& directory, const QString& name, const QByteArray& content);
 // The names of a group's subgroups as the model shows them, in order.
 QStringList subgroupNames(const CExplorerItemModel& model, int groupRow);
 

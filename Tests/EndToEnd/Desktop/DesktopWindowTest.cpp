@@ -26,7 +26,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QFile>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -37,13 +36,6 @@
 #include <QTest>
 #include <QTimer>
 #include <memory>
-
-#define VERIFY_EMPTY(text)                                                                                   \
-    do                                                                                                       \
-    {                                                                                                        \
-        const QString mismatch = (text);                                                                     \
-        QVERIFY2(mismatch.isEmpty(), qPrintable(mismatch));                                                  \
-    } while (false)
 
 namespace aec::desktop
 {
@@ -253,7 +245,7 @@ private Q_SLOTS:
     {
         QTemporaryDir directory;
         QVERIFY(directory.isValid());
-        const QString csv = writeFile(directory, "Lintels.csv", "Mark,Span,Load\nL1,1200\nL2,2400,12\n");
+        const QString csv = writeTestFile(directory, "Lintels.csv", "Mark,Span,Load\nL1,1200\nL2,2400,12\n");
         // The host's request for a table file comes up as a file dialog, then as a preview.
         onNextDialog<QFileDialog>(
             [this, &csv](QFileDialog& dialog)
@@ -291,7 +283,7 @@ private Q_SLOTS:
     {
         QTemporaryDir directory;
         QVERIFY(directory.isValid());
-        const QString rooms = writeFile(directory, "Räume.csv",
+        const QString rooms = writeTestFile(directory, "Räume.csv",
                                         "Raum;Fl\xE4"
                                         "che;Ebene\r\nB\xFCro 1;24,5;1\r\nFlur;8;1\r\n");
 
@@ -310,7 +302,7 @@ private Q_SLOTS:
         QCOMPARE(preview.getRows().item(0, 0)->text(), QString("Raum;Fläche;Ebene"));
 
         const QString locked =
-            writeFile(directory, "locked.xlsx",
+            writeTestFile(directory, "locked.xlsx",
                       QByteArray("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1", 8) + QByteArray(504, '\0'));
         CTableImportPreviewDialog refused(locked, window_.get());
         QVERIFY(refused.getSummary().text().contains("encrypted"));
@@ -350,16 +342,6 @@ private:
                                        qobject_cast<Dialog*>(QApplication::activeModalWidget()))
                                    action(*dialog);
                            });
-    }
-
-    // The file of the folder with the bytes as they are.
-    static QString writeFile(const QTemporaryDir& directory, const QString& name, const QByteArray& bytes)
-    {
-        const QString path = directory.filePath(name);
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("cannot write the test file %s", qPrintable(path));
-        return path;
     }
 
     QModelIndex entityIndex(const std::wstring& name) const { return entityRow(window_->getModel(), name); }
