@@ -31,6 +31,11 @@ std::optional<std::string> topName(const std::vector<CUndoStep>& steps)
     return steps.back().name;
 }
 
+ChangeDirection opposite(ChangeDirection direction)
+{
+    return direction == ChangeDirection::Forward ? ChangeDirection::Backward : ChangeDirection::Forward;
+}
+
 } // namespace
 
 CUndoHistory::CUndoHistory(CChangeApplier& applier, const CTransactionHost& transactions)
@@ -97,10 +102,23 @@ CUndoStep CUndoHistory::withdraw(std::vector<CUndoStep> endedRedoSteps)
 
 void CUndoHistory::replayTop(std::vector<CUndoStep>& from, std::vector<CUndoStep>& to, ChangeDirection direction)
 {
-    CUndoStep step = std::move(from.back());
+    // Room on the other stack first, so that nothing can fail once the replay has succeeded.
+    to.reserve(to.size() + 1);
+    const CUndoStep& step = from.back();
+    try
+    {
+        applier_.replay(step.changes, direction);
+    }
+    catch (...)
+    {
+        // An observer that cannot follow the replay fails it as a whole, as it fails a commit: the
+        // step is replayed back and stays on its stack, so that the project and its history are as
+        // they were, and the observers hear of that in turn.
+        applier_.replay(step.changes, opposite(direction));
+        throw;
+    }
+    to.push_back(std::move(from.back()));
     from.pop_back();
-    applier_.replay(step.changes, direction);
-    to.push_back(std::move(step));
 }
 
 void CUndoHistory::clear() noexcept
