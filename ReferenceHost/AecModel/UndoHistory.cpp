@@ -104,7 +104,10 @@ void CUndoHistory::replayTop(std::vector<CUndoStep>& from, std::vector<CUndoStep
 {
     // Room on the other stack first, so that nothing can fail once the replay has succeeded.
     to.reserve(to.size() + 1);
-    const CUndoStep& step = from.back();
+    // The step is held apart while it replays: an observer may commit a change of its own on
+    // hearing of the replay, and that push ends the redo steps.
+    CUndoStep step = std::move(from.back());
+    from.pop_back();
     try
     {
         applier_.replay(step.changes, direction);
@@ -112,13 +115,22 @@ void CUndoHistory::replayTop(std::vector<CUndoStep>& from, std::vector<CUndoStep
     catch (...)
     {
         // An observer that cannot follow the replay fails it as a whole, as it fails a commit: the
-        // step is replayed back and stays on its stack, so that the project and its history are as
-        // they were, and the observers hear of that in turn.
-        applier_.replay(step.changes, opposite(direction));
+        // step is replayed back and returns to its stack, so that the project and its history are
+        // as they were, and the observers hear of that in turn. Should they fail that too, the
+        // project is restored all the same, since the observers hear last.
+        try
+        {
+            applier_.replay(step.changes, opposite(direction));
+        }
+        catch (...)
+        {
+            from.push_back(std::move(step));
+            throw;
+        }
+        from.push_back(std::move(step));
         throw;
     }
-    to.push_back(std::move(from.back()));
-    from.pop_back();
+    to.push_back(std::move(step));
 }
 
 void CUndoHistory::clear() noexcept
