@@ -32,7 +32,8 @@ class CProjectOperation final
 public:
     // Throws what the guard source throws when no operation may start now; the project and the
     // source must outlive the operation.
-    CProjectOperation(aec::IProject& project, const aec::IOperationGuardSource& guardSource, const std::string& name);
+    [[nodiscard]] CProjectOperation(aec::IProject& project, const aec::IOperationGuardSource& guardSource,
+                                    const std::string& name);
     ~CProjectOperation();
     CProjectOperation(const CProjectOperation&) = delete;
     CProjectOperation& operator=(const CProjectOperation&) = delete;

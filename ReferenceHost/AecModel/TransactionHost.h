@@ -44,7 +44,7 @@ public:
     CTransactionHost(CChangeApplier& applier, CChangeNotifier& notifier, CUndoHistory& history);
     ~CTransactionHost() override;
 
-    std::unique_ptr<ITransaction> openTransaction(const std::string& name) override;
+    [[nodiscard]] std::unique_ptr<ITransaction> openTransaction(const std::string& name) override;
 
     bool isOpen() const noexcept { return !levels_.empty(); }
 
