@@ -19,6 +19,13 @@ namespace common
 // - notifications may nest (an observer that triggers another one); each sees the list as it was
 //   when it started, minus the observers removed since.
 // The list itself must outlive its notifications. Not thread-safe.
+//
+// @code
+//   common::CObservable<IObjectEvents> observers;
+//   observers.addObserver(panel);
+//   observers.notify([&](IObjectEvents& observer) { observer.onProjectOpened(); });
+//   observers.removeObserver(panel);   // safe also from inside a notification
+// @endcode
 template <class T>
 class CObservable
 {

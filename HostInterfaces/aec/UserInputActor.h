@@ -21,10 +21,13 @@ public:
     VoidSignal& userInputFinishedSignal() override { return userInputFinished_; }
 
     // Announces user input for as long as it lives.
-    class CUserInputScope
+    class [[nodiscard]] CUserInputScope
     {
     public:
-        explicit CUserInputScope(CUserInputActor& actor) : actor_(actor) { actor_.userInputStarted_(); }
+        [[nodiscard]] explicit CUserInputScope(CUserInputActor& actor) : actor_(actor)
+        {
+            actor_.userInputStarted_();
+        }
         ~CUserInputScope() { actor_.userInputFinished_(); }
         CUserInputScope(const CUserInputScope&) = delete;
         CUserInputScope& operator=(const CUserInputScope&) = delete;

@@ -15,7 +15,7 @@ class CChangeNotificationBatchScope final
 {
 public:
     // Opens the batch, which must outlive the scope.
-    explicit CChangeNotificationBatchScope(aec::IChangeNotificationBatch& batch);
+    [[nodiscard]] explicit CChangeNotificationBatchScope(aec::IChangeNotificationBatch& batch);
     ~CChangeNotificationBatchScope();
     CChangeNotificationBatchScope(const CChangeNotificationBatchScope&) = delete;
     CChangeNotificationBatchScope& operator=(const CChangeNotificationBatchScope&) = delete;

@@ -15,7 +15,7 @@ class CFollowingChangesPause final
 {
 public:
     // A null user interface makes a pause that does nothing; a set one must outlive the pause.
-    explicit CFollowingChangesPause(aec::IDocumentGui* gui);
+    [[nodiscard]] explicit CFollowingChangesPause(aec::IDocumentGui* gui);
     ~CFollowingChangesPause();
     CFollowingChangesPause(const CFollowingChangesPause&) = delete;
     CFollowingChangesPause& operator=(const CFollowingChangesPause&) = delete;

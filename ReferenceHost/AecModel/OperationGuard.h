@@ -12,7 +12,7 @@ class COperationGuard final : public IOperationGuard
 {
 public:
     // Starts the operation; none may be running.
-    explicit COperationGuard(COperationHost& host);
+    [[nodiscard]] explicit COperationGuard(COperationHost& host);
     // Ends it.
     ~COperationGuard() override;
     COperationGuard(const COperationGuard&) = delete;

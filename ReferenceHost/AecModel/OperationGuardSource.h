@@ -17,7 +17,7 @@ public:
 
     // The host must be a project's COperationHost. Throws common::EException while an operation
     // is running.
-    std::unique_ptr<IOperationGuard> createGuard(IOperationHost& host) const override;
+    [[nodiscard]] std::unique_ptr<IOperationGuard> createGuard(IOperationHost& host) const override;
 };
 
 } // namespace aec::model

@@ -13,7 +13,7 @@ class CTransactionHost;
 class CTransaction final : public ITransaction
 {
 public:
-    CTransaction(CTransactionHost& host, std::uint64_t serial);
+    [[nodiscard]] CTransaction(CTransactionHost& host, std::uint64_t serial);
     ~CTransaction() override;
     CTransaction(const CTransaction&) = delete;
     CTransaction& operator=(const CTransaction&) = delete;

@@ -28,13 +28,23 @@ class CUndoHistory;
 // The outermost commit tells the project's observers of the change (unless a change-notification
 // batch holds the news). An observer that fails makes the commit fail as a whole: the change and
 // its undo step are taken back, and the observers hear of that too.
+//
+// @code
+//   const std::unique_ptr<ITransaction> rename = host.openTransaction("Rename sheet");
+//   project.renameEntity(sheet, L"Sheet 2");
+//   {
+//       const std::unique_ptr<ITransaction> attempt = host.openTransaction("Remove sheet");
+//       project.removeEntity(sheet);   // dropped uncommitted: only the removal is undone
+//   }
+//   rename->commit();                  // one undo step "Rename sheet"; observers told once
+// @endcode
 class CTransactionHost final : public ITransactionHost
 {
 public:
     CTransactionHost(CChangeApplier& applier, CChangeNotifier& notifier, CUndoHistory& history);
     ~CTransactionHost() override;
 
-    std::unique_ptr<ITransaction> openTransaction(const std::string& name) override;
+    [[nodiscard]] std::unique_ptr<ITransaction> openTransaction(const std::string& name) override;
 
     bool isOpen() const noexcept { return !levels_.empty(); }
 

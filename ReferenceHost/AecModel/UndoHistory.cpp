@@ -31,6 +31,11 @@ std::optional<std::string> topName(const std::vector<CUndoStep>& steps)
     return steps.back().name;
 }
 
+ChangeDirection opposite(ChangeDirection direction)
+{
+    return direction == ChangeDirection::Forward ? ChangeDirection::Backward : ChangeDirection::Forward;
+}
+
 } // namespace
 
 CUndoHistory::CUndoHistory(CChangeApplier& applier, const CTransactionHost& transactions)
@@ -97,9 +102,34 @@ CUndoStep CUndoHistory::withdraw(std::vector<CUndoStep> endedRedoSteps)
 
 void CUndoHistory::replayTop(std::vector<CUndoStep>& from, std::vector<CUndoStep>& to, ChangeDirection direction)
 {
+    // Room on the other stack first, so that nothing can fail once the replay has succeeded.
+    to.reserve(to.size() + 1);
+    // The step is held apart while it replays: an observer may commit a change of its own on
+    // hearing of the replay, and that push ends the redo steps.
     CUndoStep step = std::move(from.back());
     from.pop_back();
-    applier_.replay(step.changes, direction);
+    try
+    {
+        applier_.replay(step.changes, direction);
+    }
+    catch (...)
+    {
+        // An observer that cannot follow the replay fails it as a whole, as it fails a commit: the
+        // step is replayed back and returns to its stack, so that the project and its history are
+        // as they were, and the observers hear of that in turn. Should they fail that too, the
+        // project is restored all the same, since the observers hear last.
+        try
+        {
+            applier_.replay(step.changes, opposite(direction));
+        }
+        catch (...)
+        {
+            from.push_back(std::move(step));
+            throw;
+        }
+        from.push_back(std::move(step));
+        throw;
+    }
     to.push_back(std::move(step));
 }
 

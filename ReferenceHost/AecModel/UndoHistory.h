@@ -16,6 +16,9 @@ class CTransactionHost;
 // The project's undo and redo stacks of committed transactions. Undo and redo replay a whole step
 // and notify the project's observers once; neither may run while a transaction is open, since the
 // open transaction's journal would no longer describe the way back.
+//
+// Like a commit, a replay is whole or nothing: when an observer fails to follow it, the step is
+// replayed back and stays on its stack, and the observer's failure reaches the caller.
 class AECMODEL_API CUndoHistory
 {
 public:
@@ -45,7 +48,7 @@ public:
     void clear() noexcept;
 
 private:
-    // Replays the top step of one stack and moves it onto the other.
+    // Replays the top step of one stack and moves it onto the other, or leaves both as they were.
     void replayTop(std::vector<CUndoStep>& from, std::vector<CUndoStep>& to, ChangeDirection direction);
 
     CChangeApplier& applier_;

@@ -240,6 +240,9 @@ void CExplorerItemModel::synchronize()
     {
         synchronizing_ = false;
         foldChanges_.clear();
+        // The merge may have stopped part way, after it destroyed some nodes and made others; the
+        // model shows what it got to, and its entity index must name exactly that.
+        indexEntities();
         throw;
     }
     synchronizing_ = false;

@@ -3,6 +3,7 @@
 #include "AecModel/Project.h"
 #include "AecModel/SampleProject.h"
 #include "AecModel/WideText.h"
+#include "HostChecks/RefusingProjectObserver.h"
 #include "HostFrame/ExplorerSession.h"
 
 #include <gmock/gmock.h>
@@ -96,6 +97,21 @@ TEST_F(ShellCommandInterpreterTest, EveryBadCommandPrintsOneErrorLineAndChangesN
     {
         const std::string before = everything();
         EXPECT_THAT(fail(line), HasSubstr("Nothing is selected")) << line;
+        EXPECT_EQ(everything(), before) << line;
+    }
+}
+
+TEST_F(ShellCommandInterpreterTest, AnUndoOrRedoThatFailsPrintsItsErrorAndKeepsTheHistory)
+{
+    run("create sheet A");
+    run("create sheet B");
+    run("undo");
+    const host::CRefusingProjectObserver drawing(session.getProject(),
+                                                 "The drawing cannot follow the change.");
+    for (const std::string line : {"undo", "redo"})
+    {
+        const std::string before = everything();
+        EXPECT_EQ(fail(line), "error: The drawing cannot follow the change.\n");
         EXPECT_EQ(everything(), before) << line;
     }
 }

@@ -16,7 +16,7 @@ public:
     {
     }
 
-    std::unique_ptr<IOperationGuard> createGuard(IOperationHost& host) const override;
+    [[nodiscard]] std::unique_ptr<IOperationGuard> createGuard(IOperationHost& host) const override;
 
 private:
     CFaultPlan& plan_;

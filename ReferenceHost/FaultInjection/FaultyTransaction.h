@@ -14,7 +14,7 @@ class CFaultPlan;
 class CFaultyTransaction final : public ITransaction
 {
 public:
-    CFaultyTransaction(CFaultPlan& plan, std::unique_ptr<ITransaction> inner);
+    [[nodiscard]] CFaultyTransaction(CFaultPlan& plan, std::unique_ptr<ITransaction> inner);
     ~CFaultyTransaction() override;
     CFaultyTransaction(const CFaultyTransaction&) = delete;
     CFaultyTransaction& operator=(const CFaultyTransaction&) = delete;

@@ -13,7 +13,7 @@ class CFaultyTransactionHost final : public ITransactionHost
 public:
     CFaultyTransactionHost(CFaultPlan& plan, ITransactionHost& inner) : plan_(plan), inner_(inner) {}
 
-    std::unique_ptr<ITransaction> openTransaction(const std::string& name) override;
+    [[nodiscard]] std::unique_ptr<ITransaction> openTransaction(const std::string& name) override;
 
 private:
     CFaultPlan& plan_;

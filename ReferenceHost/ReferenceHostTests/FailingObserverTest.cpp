@@ -1,4 +1,5 @@
 #include "AecModel/Project.h"
+#include "AecModel/UndoHistory.h"
 #include "Common/Exception.h"
 #include "aec/ObjectEvents.h"
 #include "aec/Transaction.h"
@@ -118,6 +119,39 @@ TEST_F(FailingObserverTest, ARollbackThatAnObserverCannotFollowStillCompletes)
     EXPECT_EQ(project.canonicalDump(), before)
         << "the destroyed transaction rolled back despite the observer";
     EXPECT_EQ(project.getUndoHistory().getUndoNames(), std::vector<std::string>{"Rename to 2"});
+}
+
+// An undo or redo that the observer cannot follow is replayed back and keeps its step where it
+// was, also when the observer fails the replay back too; the step replays once the observer
+// follows again.
+TEST_F(FailingObserverTest, AnUndoOrRedoThatAnObserverCannotFollowChangesNothing)
+{
+    CUndoHistory& history = project.getUndoHistory();
+    const auto expectUnchanged = [&]
+    {
+        EXPECT_EQ(project.canonicalDump(), before);
+        EXPECT_EQ(history.getUndoNames(), std::vector<std::string>{"Rename to 2"});
+        EXPECT_EQ(history.getRedoNames(), std::vector<std::string>{"Rename to 3"});
+    };
+    for (const int failures : {1, 2})
+    {
+        SCOPED_TRACE(failures);
+        observer->failures = failures;
+        EXPECT_THROW(history.undo(), common::EException);
+        expectUnchanged();
+        observer->failures = failures;
+        EXPECT_THROW(history.redo(), common::EException);
+        expectUnchanged();
+    }
+    ASSERT_EQ(observer->heard.size(), 8u) << "each failed replay is followed by its replay back";
+    EXPECT_NE(observer->heard[0], before);
+    EXPECT_EQ(observer->heard[1], before);
+
+    history.redo();
+    EXPECT_EQ(history.getUndoNames(), (std::vector<std::string>{"Rename to 3", "Rename to 2"}));
+    history.undo();
+    history.undo();
+    EXPECT_EQ(history.getRedoNames(), (std::vector<std::string>{"Rename to 2", "Rename to 3"}));
 }
 
 } // namespace

@@ -70,7 +70,7 @@ public:
     void setChangeOrigin(const char* file, int line) override;
 
     // aec::ITransactionHost
-    std::unique_ptr<aec::ITransaction> openTransaction(const std::string& name) override;
+    [[nodiscard]] std::unique_ptr<aec::ITransaction> openTransaction(const std::string& name) override;
 
     // aec::IChangeNotificationBatch
     void open() override;

@@ -54,7 +54,7 @@ public:
     build(const aec::CopyCollections& collections) const override;
 
     // aec::IOperationGuardSource: refuses to start a change while another one runs.
-    std::unique_ptr<aec::IOperationGuard> createGuard(aec::IOperationHost& host) const override;
+    [[nodiscard]] std::unique_ptr<aec::IOperationGuard> createGuard(aec::IOperationHost& host) const override;
 
     // aec::IPasteHandler
     aec::EntityIdList paste(aec::IProject& project, const aec::IProjectEntityPasteData& data) override;

@@ -1,5 +1,6 @@
 #include "AecModel/Project.h"
 #include "AecModel/SampleProject.h"
+#include "AecModel/UndoHistory.h"
 #include "DesktopTestSupport.h"
 #include "ExplorerDesktop/ButtonComboBox.h"
 #include "ExplorerDesktop/DocumentArea.h"
@@ -11,11 +12,14 @@
 #include "ExplorerDesktop/MainWindow.h"
 #include "ExplorerDesktop/PropertiesDialog.h"
 #include "ExplorerDesktop/TableImportPreviewDialog.h"
+#include "HostChecks/RefusingProjectObserver.h"
 #include "HostFrame/ExplorerPanel.h"
 #include "HostFrame/ExplorerSession.h"
 #include "HostFrame/GroupingButtons.h"
 #include "HostServices/HostServices.h"
+#include "aec/EntityTypes.h"
 #include "aec/ProjectExplorer.h"
+#include "aec/ProjectExplorerEntityController.h"
 #include "aec/ProjectExplorerGroup.h"
 #include "aec/ProjectExplorerGroupInfo.h"
 #include "aec/ProjectExplorerSubgroup.h"
@@ -36,6 +40,7 @@
 #include <QTest>
 #include <QTimer>
 #include <memory>
+#include <tuple>
 
 namespace aec::desktop
 {
@@ -216,6 +221,41 @@ private Q_SLOTS:
         QVERIFY(message->text().contains("Sheet S-2"));
         QCOMPARE(session_->getProject().canonicalDump(), before);
         QCOMPARE(sheet.data().toString(), QString("Sheet S-1"));
+    }
+
+    // The Edit menu's undo and redo, failing because another observer of the project cannot follow
+    // the replay, show why and leave the project and both steps where they were.
+    void aFailedUndoOrRedoIsShownAndKeepsItsStep()
+    {
+        EntityId kept;
+        session_->getEntityController().createEntity(entity_types::sheet(), kept);
+        EntityId undone;
+        session_->getEntityController().createEntity(entity_types::sheet(), undone);
+        window_->getAction("undo").trigger();
+        const model::CUndoHistory& history = session_->getUndoHistory();
+        const auto everything = [&]
+        {
+            return std::tuple(session_->getProject().canonicalDump(), history.getUndoNames(),
+                              history.getRedoNames());
+        };
+        const auto before = everything();
+        const QString why("The drawing cannot follow the change.");
+        {
+            const host::CRefusingProjectObserver drawing(session_->getProject(), why.toStdString());
+            for (const char* const name : {"undo", "redo"})
+            {
+                QAction& replay = window_->getAction(name);
+                replay.trigger();
+                auto* const message = window_->findChild<QMessageBox*>();
+                QVERIFY(message != nullptr);
+                QCOMPARE(message->text(), why);
+                delete message;
+                QVERIFY(everything() == before);
+                QVERIFY2(replay.isEnabled(), name);
+            }
+        }
+        QVERIFY(window_->getModel().indexOfEntity(kept).isValid());
+        QVERIFY(!window_->getModel().indexOfEntity(undone).isValid());
     }
 
     void savedProjectsOpenAgainAndBrokenOnesAreReported()
