@@ -1,22 +1,19 @@
 #include "AecModel/TableImporter.h"
 
 #include "AecModel/CsvReader.h"
+#include "AecModel/EntityNameRule.h"
 #include "AecModel/InputFile.h"
 #include "AecModel/Project.h"
 #include "AecModel/UniqueNameGenerator.h"
 #include "AecModel/WideText.h"
-
+#include "Common/Exception.h"
 #include "aec/Cast.h"
 
-#include "Common/Exception.h"
-#include "Common/UUID.h"
-
+#include <algorithm>
 #include <boost/locale/encoding_utf.hpp>
 #include <fmt/format.h>
-#include <nlohmann/json.hpp>
-
-#include <algorithm>
 #include <fstream>
+#include <nlohmann/json.hpp>
 #include <sstream>
 
 namespace aec::model
@@ -81,10 +78,9 @@ EntityId CTableImporter::importTable(IProject& project, const std::filesystem::p
         columns = std::max(columns, record.size());
     const std::size_t rows = records.size();
 
-    const EntityId id =
-        target.addEntity(EntityCollection::Tables,
-                         CUniqueNameGenerator(target, EntityCollection::Tables).takeUnique(tableName(file)),
-                         std::nullopt, EntityId(common::UUID::generate()));
+    const EntityId id = target.addEntity(
+        EntityCollection::Tables, CUniqueNameGenerator(target, EntityCollection::Tables)
+                                      .takeUnique(repairedName(EntityCollection::Tables, tableName(file))));
     target.setEntityProperty(id, std::string(rowsProperty), std::to_wstring(rows));
     target.setEntityProperty(id, std::string(columnsProperty), std::to_wstring(columns));
     target.setEntityProperty(id, std::string(cellsProperty), cellsText(records, columns));
