@@ -230,9 +230,16 @@ std::string CExplorerLookup::quotedName(const EntityId& id) const
 
 std::string CExplorerLookup::quotedNames(const EntityIdList& entities) const
 {
+    // A selection of thousands would fill the terminal for minutes; its start and a count say
+    // enough, and `dump` lists everything for whoever needs it.
+    constexpr std::size_t longestList = 20;
+    constexpr std::size_t shownOfLongList = 10;
+    const std::size_t shown = entities.size() > longestList ? shownOfLongList : entities.size();
     std::string names;
-    for (const EntityId& id : entities)
-        names += (names.empty() ? "" : ", ") + quotedName(id);
+    for (std::size_t index = 0; index < shown; ++index)
+        names += (names.empty() ? "" : ", ") + quotedName(entities[index]);
+    if (shown < entities.size())
+        names += fmt::format(" and {} more ({} in all)", entities.size() - shown, entities.size());
     return names;
 }
 

@@ -60,7 +60,8 @@ public:
     const IEntity& getEntity(const EntityId& id) const;
     // The entity's name in UTF-8, in quotes.
     std::string quotedName(const EntityId& id) const;
-    // The names of the entities, quoted and separated by commas.
+    // The names of the entities, quoted and separated by commas; of a long list only the first
+    // names and a count.
     std::string quotedNames(const EntityIdList& entities) const;
 
 private:

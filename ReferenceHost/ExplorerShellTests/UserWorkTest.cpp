@@ -168,5 +168,15 @@ TEST_F(UserWorkTest, HistoryAndUndoSpeakOfWhatChanged)
     EXPECT_EQ(run("undo"), "undone: Paste table “Door schedule (2)”\n");
 }
 
+// A selection of thousands is told by its start and a count, not name by name.
+TEST_F(UserWorkTest, LongSelectionsAreSummarisedWithACount)
+{
+    for (int number = 0; number < 30; ++number)
+        run("create material");
+    const std::string selected = run("select all 3");
+    EXPECT_THAT(selected, HasSubstr(" and 28 more (38 in all)"));
+    EXPECT_EQ(std::ranges::count(selected, '"'), 20) << selected;
+}
+
 } // namespace
 } // namespace aec::shell

@@ -1,19 +1,17 @@
-#include "TemporaryDirectory.h"
-
 #include "AecModel/ProjectFile.h"
+
 #include "AecModel/Project.h"
 #include "AecModel/SampleProject.h"
-
-#include "aec/ProjectExplorerGroupInfo.h"
-
 #include "Common/Exception.h"
-
-#include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
+#include "TemporaryDirectory.h"
+#include "aec/ProjectExplorerGroupInfo.h"
 
 #include <filesystem>
 #include <fstream>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 #include <string>
+#include <vector>
 
 namespace aec::model
 {
@@ -164,6 +162,32 @@ TEST_F(ProjectFileTest, FieldsOfANewerVersionSurviveALoadAndASave)
     EXPECT_EQ(saved["collections"]["topics"][1], document["collections"]["topics"][1]);
     EXPECT_EQ(saved["preferences"]["units"], "mm");
     EXPECT_TRUE(CProjectFile::load(path)->getLoadNotes().empty()) << "the saved file is of this version";
+}
+
+// A file written by hand may break the naming rule; its entities are kept, under names that follow
+// the rule, and the user is told which names changed.
+TEST_F(ProjectFileTest, NamesThatBreakTheRuleAreMendedOnLoad)
+{
+    json document = savedSample();
+    json& sheets = document["collections"]["sheets"];
+    sheets[0]["name"] = "Sheet S-2";
+    sheets[1]["name"] = "sheet s-02";
+    sheets[2]["name"] = " \t ";
+    sheets[3]["name"] = "  Plan\u0001 ";
+    const auto loaded = CProjectFile::load(write("names.json", document.dump()));
+
+    EXPECT_EQ(loaded->entityCount(), buildSampleProject()->entityCount());
+    std::vector<std::wstring> names;
+    for (const EntityId& id : loaded->getEntities(EntityCollection::Sheets))
+        names.push_back(loaded->findEntity(id)->getName());
+    EXPECT_EQ(std::vector<std::wstring>(names.begin(), names.begin() + 4),
+              (std::vector<std::wstring>{L"Sheet S-2", L"sheet s-02 (2)", L"Sheet", L"Plan"}));
+    // The sample's own "Sheet S-2" comes later and is mended too, past the name taken above.
+    EXPECT_EQ(names[6], L"Sheet S-2 (3)");
+    ASSERT_EQ(loaded->getLoadNotes().size(), 1u);
+    EXPECT_NE(loaded->getLoadNotes().front().find("4 names did not follow the naming rule"),
+              std::string::npos)
+        << loaded->getLoadNotes().front();
 }
 
 TEST_F(ProjectFileTest, BrokenPreferencesDoNotStopTheLoad)
