@@ -151,6 +151,38 @@ TEST_F(UserWorkTest, TopicsLinkedModelsAndImagesAreRenamedOrRefusedInWords)
     EXPECT_THAT(run("history"), HasSubstr("Rename topic “Level 2”"));
 }
 
+TEST_F(UserWorkTest, TopicsAreMadeListedDeletedAndCleared)
+{
+    run("topics new \" Roof \"");
+    EXPECT_THAT(fail("topics new roof"), HasSubstr("already a topic named \"Roof\""));
+    const std::string listed = run("topics");
+    EXPECT_LT(listed.find("\"level 2\""), listed.find("\"Level 10\"")) << "natural order";
+    EXPECT_THAT(listed, HasSubstr("\"Roof\"\t0\n"));
+
+    const auto topicOf = [this](std::wstring_view name)
+    {
+        for (const EntityId& id : session.getProject().getEntities(EntityCollection::Sheets))
+            if (session.getProject().findEntity(id)->getName() == name)
+                return session.getProject().findEntity(id)->getTopic();
+        return std::optional<TopicId>();
+    };
+    EXPECT_EQ(run("topics delete Structure"),
+              "asked: Delete the topic \"Structure\"? 10 entities have it and "
+              "will have no topic.\nkept: topic \"Structure\"\n");
+    EXPECT_TRUE(topicOf(L"Sheet S-1").has_value());
+    run("answer yes");
+    run("topics delete Structure");
+    EXPECT_FALSE(topicOf(L"Sheet S-1").has_value());
+    run("undo");
+    EXPECT_TRUE(topicOf(L"Sheet S-1").has_value());
+
+    run("select \"Sheet A-101\"");
+    EXPECT_EQ(run("topics clear"), "topic: none\n");
+    EXPECT_FALSE(topicOf(L"Sheet A-101").has_value());
+    run("select Logo");
+    EXPECT_THAT(fail("topics clear"), HasSubstr("has no topic to clear"));
+}
+
 TEST_F(UserWorkTest, HistoryAndUndoSpeakOfWhatChanged)
 {
     run("create sheet \"A-9\"");
