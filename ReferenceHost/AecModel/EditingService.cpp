@@ -35,8 +35,9 @@ void CEditingService::submit(IEditCommand& command)
     COMMON_PRECONDITION(edit != nullptr);
     if (edit->getName())
     {
-        requireAcceptableName(project_, *project_.findEntity(edit->getEntity()), *edit->getName());
-        project_.renameEntity(edit->getEntity(), *edit->getName());
+        project_.renameEntity(
+            edit->getEntity(),
+            acceptableName(project_, *project_.findEntity(edit->getEntity()), *edit->getName()));
     }
 }
 

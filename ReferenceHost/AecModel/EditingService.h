@@ -26,7 +26,7 @@ public:
     // The entity must exist; an edit must be open.
     std::unique_ptr<IEditCommand> createCommand(const EntityId& entity) override;
     // The command must come from this service; an edit must be open. A name is held to the rule of
-    // every rename (see requireAcceptableName): one it breaks throws common::EException.
+    // every rename (see acceptableName): one it breaks throws common::EException.
     void submit(IEditCommand& command) override;
     void endEdit(bool success) override;
 

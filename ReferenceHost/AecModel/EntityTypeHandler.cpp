@@ -39,8 +39,7 @@ void CEntityTypeHandler::remove(const EntityId& id)
 void CEntityTypeHandler::rename(const EntityId& id, const std::wstring& newName)
 {
     requireMember(id);
-    requireAcceptableName(project_, *project_.findEntity(id), newName);
-    project_.renameEntity(id, newName);
+    project_.renameEntity(id, acceptableName(project_, *project_.findEntity(id), newName));
 }
 
 void CEntityTypeHandler::requireMember(const EntityId& id) const

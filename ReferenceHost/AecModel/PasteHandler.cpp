@@ -3,13 +3,11 @@
 #include "AecModel/CopiedEntities.h"
 #include "AecModel/CopyCollectionInfo.h"
 #include "AecModel/EntityCollectionInfo.h"
+#include "AecModel/EntityNameRule.h"
 #include "AecModel/Project.h"
 #include "AecModel/UniqueNameGenerator.h"
-
-#include "aec/Cast.h"
-
 #include "Common/Check.h"
-#include "Common/UUID.h"
+#include "aec/Cast.h"
 
 #include <map>
 #include <set>
@@ -65,9 +63,9 @@ EntityIdList pasteCollection(CProject& project, const CopyCollectionInfo& info,
     for (const CopiedEntity& copy : copies)
     {
         COMMON_PRECONDITION(copy.type == collectionInfo(info.collection).type);
-        const EntityId id = project.addEntity(info.collection, names.takeUnique(copy.name),
-                                              bearsTopic ? topics.map(copy.topic) : std::nullopt,
-                                              EntityId(common::UUID::generate()));
+        const EntityId id =
+            project.addEntity(info.collection, names.takeUnique(repairedName(info.collection, copy.name)),
+                              bearsTopic ? topics.map(copy.topic) : std::nullopt);
         for (const auto& [name, value] : copy.properties)
             project.setEntityProperty(id, name, value);
         if (info.collection == EntityCollection::Topics)

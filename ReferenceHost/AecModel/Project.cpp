@@ -109,7 +109,11 @@ EntityId CProject::addEntity(EntityCollection collection, std::wstring name, std
                              EntityId id)
 {
     if (id.isNull())
-        id = EntityId(common::UUID::generate());
+        // A seeded provider may repeat an identifier of a project that a run with the same seed
+        // saved, so a fresh identifier is drawn until it is one the project does not use.
+        do
+            id = EntityId(common::UUID::generate());
+        while (store_.find(id) != nullptr);
     COMMON_PRECONDITION(store_.find(id) == nullptr);
     COMMON_PRECONDITION(!topic || (collectionInfo(collection).bearsTopic && isTopic(*topic)));
     change(EntityAdded{EntityRecord{id, collection, std::move(name), topic, {}}});
@@ -190,6 +194,26 @@ CProjectPreferences& CProject::getPreferences() noexcept
 const CProjectPreferences& CProject::getPreferences() const noexcept
 {
     return preferences_;
+}
+
+CUnknownFileFields& CProject::getUnknownFileFields() noexcept
+{
+    return unknownFileFields_;
+}
+
+const CUnknownFileFields& CProject::getUnknownFileFields() const noexcept
+{
+    return unknownFileFields_;
+}
+
+const std::vector<std::string>& CProject::getLoadNotes() const noexcept
+{
+    return loadNotes_;
+}
+
+void CProject::addLoadNote(std::string note)
+{
+    loadNotes_.push_back(std::move(note));
 }
 
 const std::optional<ChangeOrigin>& CProject::getChangeOrigin() const noexcept

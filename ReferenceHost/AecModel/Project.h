@@ -13,11 +13,10 @@
 #include "AecModel/ProjectPreferences.h"
 #include "AecModel/TransactionHost.h"
 #include "AecModel/UndoHistory.h"
-
+#include "AecModel/UnknownFileFields.h"
+#include "Common/Observable.h"
 #include "aec/ObjectEvents.h"
 #include "aec/Project.h"
-
-#include "Common/Observable.h"
 
 #include <cstddef>
 #include <memory>
@@ -82,6 +81,12 @@ public:
     const CUndoHistory& getUndoHistory() const noexcept;
     CProjectPreferences& getPreferences() noexcept;
     const CProjectPreferences& getPreferences() const noexcept;
+    // What the project file held that this version does not know, written back on save.
+    CUnknownFileFields& getUnknownFileFields() noexcept;
+    const CUnknownFileFields& getUnknownFileFields() const noexcept;
+    // What loading the project's file changed or wants the user to know, one sentence each.
+    const std::vector<std::string>& getLoadNotes() const noexcept;
+    void addLoadNote(std::string note);
     // The origin most recently named with setChangeOrigin, if any.
     const std::optional<ChangeOrigin>& getChangeOrigin() const noexcept;
 
@@ -101,6 +106,8 @@ private:
     std::unique_ptr<CDocument> document_;
     CProjectPreferences preferences_;
     std::optional<ChangeOrigin> changeOrigin_;
+    CUnknownFileFields unknownFileFields_;
+    std::vector<std::string> loadNotes_;
 };
 
 } // namespace aec::model

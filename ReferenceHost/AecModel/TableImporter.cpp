@@ -1,11 +1,11 @@
 #include "AecModel/TableImporter.h"
 
+#include "AecModel/EntityNameRule.h"
 #include "AecModel/Project.h"
 #include "AecModel/TableFileReader.h"
 #include "AecModel/UniqueNameGenerator.h"
 #include "AecModel/WideText.h"
 #include "Common/Exception.h"
-#include "Common/UUID.h"
 #include "aec/Cast.h"
 
 #include <boost/locale/encoding_utf.hpp>
@@ -66,10 +66,9 @@ EntityId CTableImporter::importTable(IProject& project, const std::filesystem::p
 
     const TableImportReport report = table->report;
     const bool headerRow = report.settings.headerRow;
-    const EntityId id =
-        target.addEntity(EntityCollection::Tables,
-                         CUniqueNameGenerator(target, EntityCollection::Tables).takeUnique(tableName(file)),
-                         std::nullopt, EntityId(common::UUID::generate()));
+    const EntityId id = target.addEntity(
+        EntityCollection::Tables, CUniqueNameGenerator(target, EntityCollection::Tables)
+                                      .takeUnique(repairedName(EntityCollection::Tables, tableName(file))));
     target.setEntityProperty(id, std::string(rowsProperty), std::to_wstring(report.rows));
     target.setEntityProperty(id, std::string(columnsProperty), std::to_wstring(report.columns));
     if (headerRow)

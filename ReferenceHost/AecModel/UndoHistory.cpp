@@ -87,6 +87,10 @@ std::vector<std::string> CUndoHistory::getRedoNames() const
 
 std::vector<CUndoStep> CUndoHistory::push(CUndoStep step)
 {
+    savedDepthBeforePush_ = savedDepth_;
+    // A saved state among the redo steps is lost with them.
+    if (savedDepth_ && *savedDepth_ > undoSteps_.size())
+        savedDepth_.reset();
     undoSteps_.push_back(std::move(step));
     return std::exchange(redoSteps_, {});
 }
@@ -97,6 +101,7 @@ CUndoStep CUndoHistory::withdraw(std::vector<CUndoStep> endedRedoSteps)
     CUndoStep step = std::move(undoSteps_.back());
     undoSteps_.pop_back();
     redoSteps_ = std::move(endedRedoSteps);
+    savedDepth_ = savedDepthBeforePush_;
     return step;
 }
 
@@ -137,6 +142,17 @@ void CUndoHistory::clear() noexcept
 {
     undoSteps_.clear();
     redoSteps_.clear();
+    savedDepth_.reset();
+}
+
+void CUndoHistory::markSaved() noexcept
+{
+    savedDepth_ = undoSteps_.size();
+}
+
+bool CUndoHistory::isModified() const noexcept
+{
+    return savedDepth_ != undoSteps_.size();
 }
 
 } // namespace aec::model

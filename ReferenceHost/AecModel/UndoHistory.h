@@ -39,13 +39,26 @@ public:
     std::vector<std::string> getUndoNames() const;
     std::vector<std::string> getRedoNames() const;
 
+    // The steps themselves, the next one to replay last, for labels made from what they changed.
+    const std::vector<CUndoStep>& getUndoSteps() const noexcept { return undoSteps_; }
+    const std::vector<CUndoStep>& getRedoSteps() const noexcept { return redoSteps_; }
+
     // A newly committed step; it ends every redo. Returns the redo steps it ended, for withdraw.
     std::vector<CUndoStep> push(CUndoStep step);
     // Takes the step pushed last off again and brings back the redo steps that its push ended: for
     // a commit that failed after it recorded its step.
     CUndoStep withdraw(std::vector<CUndoStep> endedRedoSteps);
     // Forgets every step: the project changed outside of transactions, so no step fits any more.
+    // The saved state is then out of reach too.
     void clear() noexcept;
+
+    // The project as it is now is the one in its file (just saved or opened).
+    void markSaved() noexcept;
+    // Whether the project differs from the one in its file: every step committed since counts, and
+    // undoing back to the saved state (or redoing forward to it) makes it clean again. Once the saved
+    // state can no longer be reached (its redo steps ended by a new step, the history cleared) the
+    // project stays modified until the next save.
+    bool isModified() const noexcept;
 
 private:
     // Replays the top step of one stack and moves it onto the other, or leaves both as they were.
@@ -55,6 +68,10 @@ private:
     const CTransactionHost& transactions_;
     std::vector<CUndoStep> undoSteps_;
     std::vector<CUndoStep> redoSteps_;
+    // How many undo steps lead back to the saved state, while it can be reached.
+    std::optional<std::size_t> savedDepth_ = 0;
+    // What savedDepth_ was before the last push, for withdraw.
+    std::optional<std::size_t> savedDepthBeforePush_ = 0;
 };
 
 } // namespace aec::model

@@ -33,9 +33,15 @@ CUniqueNameGenerator::CUniqueNameGenerator(const CProject& project, EntityCollec
         taken_.insert(project.findEntity(id)->getName());
 }
 
-bool CUniqueNameGenerator::isTaken(const std::wstring& name) const
+bool CUniqueNameGenerator::isTaken(std::wstring_view name) const
 {
     return taken_.contains(name);
+}
+
+const std::wstring* CUniqueNameGenerator::findTaken(std::wstring_view name) const
+{
+    const auto found = taken_.find(name);
+    return found == taken_.end() ? nullptr : &*found;
 }
 
 std::wstring CUniqueNameGenerator::takeNumbered(std::wstring_view base)

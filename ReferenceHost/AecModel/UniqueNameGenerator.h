@@ -1,25 +1,29 @@
 #pragma once
 
+#include "AecModel/AecModelApi.h"
+#include "Common/LogicalCompare.h"
 #include "aec/EntityCollection.h"
 
+#include <set>
 #include <string>
 #include <string_view>
-#include <unordered_set>
 
 namespace aec::model
 {
 
 class CProject;
 
-// Hands out names that no entity of one collection has yet. Names are compared exactly, as the
-// user typed them: "Sheet 1" and "sheet 1" are two names. Every name handed out counts as taken
-// from then on, so one generator serves an operation that adds several entities.
-class CUniqueNameGenerator
+// Hands out names that no entity of one collection has yet. Names are compared in natural order, as
+// the user reads them: "Sheet 1", "sheet 1" and "Sheet 01" are one name. Every name handed out
+// counts as taken from then on, so one generator serves an operation that adds several entities.
+class AECMODEL_API CUniqueNameGenerator
 {
 public:
     CUniqueNameGenerator(const CProject& project, EntityCollection collection);
 
-    bool isTaken(const std::wstring& name) const;
+    bool isTaken(std::wstring_view name) const;
+    // The name of the entity that has the name already, as that entity spells it, or null.
+    const std::wstring* findTaken(std::wstring_view name) const;
     // The first free name of "<base> 1", "<base> 2", ...
     std::wstring takeNumbered(std::wstring_view base);
     // The wanted name when it is free; otherwise "<stem> (2)", "<stem> (3)", ..., the first that is
@@ -30,7 +34,7 @@ public:
 private:
     std::wstring take(std::wstring name);
 
-    std::unordered_set<std::wstring> taken_;
+    std::set<std::wstring, common::LogicalLess> taken_;
 };
 
 } // namespace aec::model

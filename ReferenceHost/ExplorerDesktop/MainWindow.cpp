@@ -5,6 +5,7 @@
 #include "AecApp/EditPropertiesMenuItems.h"
 #include "AecModel/Project.h"
 #include "AecModel/ProjectFile.h"
+#include "AecModel/UndoStepLabel.h"
 #include "Common/Check.h"
 #include "Common/Exception.h"
 #include "ExplorerDesktop/CommandRunner.h"
@@ -33,6 +34,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QCloseEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
@@ -115,6 +117,13 @@ CMainWindow::CMainWindow(host::CExplorerSession& session, QWidget* parent)
         [this](const std::wstring& message) { statusBar()->showMessage(QString::fromStdWString(message)); });
     if (const std::wstring& last = session_.getStatusService().getLastMessage(); !last.empty())
         statusBar()->showMessage(QString::fromStdWString(last));
+    askAboutUnsavedChanges_ = [this](const QString& action)
+    {
+        return QMessageBox::question(
+            this, tr("Unsaved changes"),
+            tr("The project has changes that are not saved, and %1 loses them. Save them first?").arg(action),
+            QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+    };
     setProjectPath(QString());
     updateActions();
     // The tree is where the user works; the filter box is only the first widget in tab order.
@@ -174,7 +183,32 @@ void CMainWindow::setProjectPath(const QString& path)
 {
     projectPath_ = path;
     const QString shown = path.isEmpty() ? tr("Sample project") : QFileInfo(path).fileName();
-    setWindowTitle(tr("%1 - Project explorer").arg(shown));
+    // [*] is where Qt shows the modified marker while windowModified is set.
+    setWindowTitle(tr("%1[*] - Project explorer").arg(shown));
+    setWindowModified(session_.hasUnsavedChanges());
+}
+
+void CMainWindow::closeEvent(QCloseEvent* event)
+{
+    if (mayDropProject(tr("closing")))
+        event->accept();
+    else
+        event->ignore();
+}
+
+bool CMainWindow::mayDropProject(const QString& action)
+{
+    if (!session_.hasUnsavedChanges())
+        return true;
+    switch (askAboutUnsavedChanges_(action))
+    {
+    case QMessageBox::Save:
+        return saveFromDialog(false);
+    case QMessageBox::Discard:
+        return true;
+    default:
+        return false;
+    }
 }
 
 QAction& CMainWindow::getAction(const QString& name) const
@@ -261,12 +295,20 @@ void CMainWindow::updateActions()
 
     QAction& undo = getAction("undo");
     QAction& redo = getAction("redo");
-    const auto name = [](const std::optional<std::string>& step)
+    // Labels for people, made from what each step changed; the steps' own names are the library's.
+    const auto label = [this, hasProject](bool undoSide)
     {
-        return step ? QString::fromStdString(*step) : QString();
+        if (!hasProject)
+            return QString();
+        const auto& steps =
+            undoSide ? session_.getUndoHistory().getUndoSteps() : session_.getUndoHistory().getRedoSteps();
+        return steps.empty()
+                   ? QString()
+                   : QString::fromStdString(model::undoStepLabel(steps.back(), session_.getProject()));
     };
-    const QString undoName = hasProject ? name(session_.getUndoHistory().getUndoName()) : QString();
-    const QString redoName = hasProject ? name(session_.getUndoHistory().getRedoName()) : QString();
+    const QString undoName = label(true);
+    const QString redoName = label(false);
+    setWindowModified(session_.hasUnsavedChanges());
     undo.setText(undoName.isEmpty() ? tr("&Undo") : tr("&Undo %1").arg(undoName));
     undo.setEnabled(!undoName.isEmpty());
     redo.setText(redoName.isEmpty() ? tr("&Redo") : tr("&Redo %1").arg(redoName));
@@ -425,19 +467,20 @@ void CMainWindow::showOpenFailure(const QString& path, const QString& failure)
 
 void CMainWindow::openFromDialog()
 {
+    if (!mayDropProject(tr("opening another project")))
+        return;
     const QString path = QFileDialog::getOpenFileName(this, tr("Open project"), projectPath_,
                                                       tr("Projects (*.json);;All files (*)"));
     if (!path.isEmpty())
         openProject(path);
 }
 
-void CMainWindow::saveFromDialog(bool chooseFile)
+bool CMainWindow::saveFromDialog(bool chooseFile)
 {
     QString path = projectPath_;
     if (chooseFile || path.isEmpty())
         path = QFileDialog::getSaveFileName(this, tr("Save project"), projectPath_, tr("Projects (*.json)"));
-    if (!path.isEmpty())
-        saveProject(path);
+    return !path.isEmpty() && saveProject(path);
 }
 
 void CMainWindow::openEntity(const QModelIndex& index)

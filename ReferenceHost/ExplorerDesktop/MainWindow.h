@@ -3,11 +3,13 @@
 #include "ExplorerDesktop/ContextMenuBuilder.h"
 
 #include <QMainWindow>
+#include <QMessageBox>
 #include <QSize>
 #include <QString>
 
 class QLineEdit;
 #include <boost/signals2/connection.hpp>
+#include <functional>
 #include <memory>
 
 namespace aec::host
@@ -62,6 +64,18 @@ public:
     // The menus' actions, by their object names ("undo", "delete", "import", ...), for tests.
     QAction& getAction(const QString& name) const;
 
+    // What the user answers to "Save the changes?" before the window closes or opens another
+    // project: Save, Discard or Cancel. A message box by default; tests answer without one.
+    using UnsavedChangesQuestion = std::function<QMessageBox::StandardButton(const QString& action)>;
+    void setUnsavedChangesQuestion(UnsavedChangesQuestion question)
+    {
+        askAboutUnsavedChanges_ = std::move(question);
+    }
+
+protected:
+    // Closing (the window's close button, File > Quit, Ctrl+Q) asks before unsaved changes are lost.
+    void closeEvent(QCloseEvent* event) override;
+
 private:
     void makeMenus();
     QAction* addAction(QMenu& menu, const QString& name, const QString& text, const QKeySequence& shortcut);
@@ -80,7 +94,10 @@ private:
     void makeViewMenu();
     void showOpenFailure(const QString& path, const QString& failure);
     void openFromDialog();
-    void saveFromDialog(bool chooseFile);
+    // False when nothing was saved (the user cancelled the file dialog, or the save failed).
+    bool saveFromDialog(bool chooseFile);
+    // True when the project may be dropped: nothing is unsaved, or the user saved or discarded it.
+    bool mayDropProject(const QString& action);
     void openEntity(const QModelIndex& index);
     void renameSelected();
     // Gives the open project's document the window's property context, unless it has one.
@@ -100,6 +117,7 @@ private:
     CSystemClipboardBridge* clipboardBridge_;
     CStatusCounts* counts_;
     boost::signals2::scoped_connection status_;
+    UnsavedChangesQuestion askAboutUnsavedChanges_;
 };
 
 } // namespace aec::desktop

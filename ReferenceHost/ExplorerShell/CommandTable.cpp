@@ -5,6 +5,7 @@
 #include "ExplorerShell/CommandLine.h"
 
 #include <algorithm>
+#include <boost/algorithm/string/predicate.hpp>
 #include <fmt/format.h>
 #include <ostream>
 
@@ -30,7 +31,10 @@ void CCommandTable::add(ShellCommand command)
 
 const ShellCommand& CCommandTable::find(const CCommandLine& line) const
 {
-    const auto command = std::ranges::find(commands_, line.getCommand(), &ShellCommand::name);
+    // Command words are the program's own and all lower case; the caps lock key should not matter.
+    const auto command =
+        std::ranges::find_if(commands_, [&line](const ShellCommand& candidate)
+                             { return boost::algorithm::iequals(candidate.name, line.getCommand()); });
     if (command == commands_.end())
         throw common::EException(
             fmt::format("Unknown command \"{}\"; type help for the list of commands.", line.getCommand()));

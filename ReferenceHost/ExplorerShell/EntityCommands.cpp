@@ -11,6 +11,7 @@
 #include "ExplorerShell/ExplorerLookup.h"
 #include "HostFrame/ExplorerSession.h"
 #include "HostFrame/Gui.h"
+#include "HostFrame/TopicEditor.h"
 #include "HostServices/HostServices.h"
 #include "aec/ClipboardFormats.h"
 #include "aec/Commands.h"
@@ -126,7 +127,22 @@ void CEntityCommands::rename(const CCommandLine& line, std::ostream& out)
     const CExplorerLookup lookup(session_);
     const EntityId id = lookup.findEntity(line.getArgument(0).text);
     const std::string oldName = lookup.quotedName(id);
-    session_.getEntityController().renameEntity(id, model::fromUtf8(line.getArgument(1).text));
+    const std::wstring newName = model::fromUtf8(line.getArgument(1).text);
+    switch (session_.getProject().findEntity(id)->getCollection())
+    {
+    case EntityCollection::Topics:
+        host::CTopicEditor(session_.getProject()).rename(TopicId(id.uuid()), newName);
+        break;
+    // Their names are those of the files they show, which this program does not rename.
+    case EntityCollection::LinkedModels:
+        throw common::EException(
+            "A linked model is named after the model file it links; rename the file instead.");
+    case EntityCollection::Images:
+        throw common::EException("An image is named after its picture file; rename the file instead.");
+    default:
+        session_.getEntityController().renameEntity(id, newName);
+        break;
+    }
     out << "renamed: " << oldName << " to " << lookup.quotedName(id) << '\n';
 }
 

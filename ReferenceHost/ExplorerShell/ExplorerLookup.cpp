@@ -4,6 +4,7 @@
 #include "AecModel/WideText.h"
 #include "Common/Exception.h"
 #include "Common/LogicalCompare.h"
+#include "Common/UUID.h"
 #include "ExplorerShell/CommandLine.h"
 #include "HostFrame/ExplorerSession.h"
 #include "aec/ProjectExplorer.h"
@@ -106,24 +107,54 @@ const ProjectExplorerGroupInfo& CExplorerLookup::getGroupInfo(int groupIndex) co
 
 EntityId CExplorerLookup::findEntity(const std::string& name) const
 {
+    // An identifier names one entity whatever the names are.
+    if (const std::optional<common::UUID> uuid = common::UUID::tryParse(std::string_view(name)))
+        if (session_.getProject().findEntity(EntityId(*uuid)) != nullptr)
+            return EntityId(*uuid);
+
     const std::wstring wideName = model::fromUtf8(name);
     std::vector<EntityId> found;
     std::vector<std::string> places;
+    int groupIndex = 0;
     for (const IProjectExplorerGroup& group : session_.getExplorer().getGroups())
+    {
         for (const IProjectExplorerSubgroup& subgroup : group.getSubgroups())
             for (const EntityId& id : subgroup.getEntities())
                 if (getEntity(id).getName() == wideName)
                 {
                     found.push_back(id);
-                    places.push_back(model::toUtf8(group.getName()));
+                    places.push_back(fmt::format("{}:{}", groupIndex, name));
                 }
-    if (found.empty())
-        throw common::EException(fmt::format("No entity is named {}.", CCommandLine::quote(name)));
+        ++groupIndex;
+    }
+    if (found.size() == 1)
+        return found.front();
     if (found.size() > 1)
-        throw common::EException(fmt::format("{} is ambiguous: {} entities have that name (in {}).",
+        throw common::EException(fmt::format("{} is ambiguous: {} entities have that name; name one with its "
+                                             "group number, as tree shows it: {}.",
                                              CCommandLine::quote(name), found.size(),
                                              fmt::join(places, ", ")));
-    return found.front();
+    if (const std::optional<EntityId> inGroup = findInGroup(name))
+        return *inGroup;
+    throw common::EException(fmt::format("No entity is named {}.", CCommandLine::quote(name)));
+}
+
+std::optional<EntityId> CExplorerLookup::findInGroup(const std::string& qualifiedName) const
+{
+    // "G:NAME", the group's number in the tree and the entity's name; names are unique within a
+    // group's collection, so this names one entity.
+    const std::size_t colon = qualifiedName.find(':');
+    if (colon == std::string::npos)
+        return std::nullopt;
+    const std::optional<int> index = parseIndex(CommandWord{qualifiedName.substr(0, colon)});
+    if (!index || *index < 0 || *index >= groupCount())
+        return std::nullopt;
+    const std::wstring name = model::fromUtf8(qualifiedName.substr(colon + 1));
+    for (const IProjectExplorerSubgroup& subgroup : getGroup(*index).getSubgroups())
+        for (const EntityId& id : subgroup.getEntities())
+            if (getEntity(id).getName() == name)
+                return id;
+    return std::nullopt;
 }
 
 EntityIdList CExplorerLookup::entitiesOf(const IProjectExplorerSubgroup& subgroup) const
@@ -199,9 +230,16 @@ std::string CExplorerLookup::quotedName(const EntityId& id) const
 
 std::string CExplorerLookup::quotedNames(const EntityIdList& entities) const
 {
+    // A selection of thousands would fill the terminal for minutes; its start and a count say
+    // enough, and `dump` lists everything for whoever needs it.
+    constexpr std::size_t longestList = 20;
+    constexpr std::size_t shownOfLongList = 10;
+    const std::size_t shown = entities.size() > longestList ? shownOfLongList : entities.size();
     std::string names;
-    for (const EntityId& id : entities)
-        names += (names.empty() ? "" : ", ") + quotedName(id);
+    for (std::size_t index = 0; index < shown; ++index)
+        names += (names.empty() ? "" : ", ") + quotedName(entities[index]);
+    if (shown < entities.size())
+        names += fmt::format(" and {} more ({} in all)", entities.size() - shown, entities.size());
     return names;
 }
 

@@ -2,6 +2,7 @@
 
 #include "aec/EntityId.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -41,7 +42,9 @@ public:
     // The host's description of the group at the index.
     const ProjectExplorerGroupInfo& getGroupInfo(int groupIndex) const;
 
-    // The one entity in the explorer with exactly that name (UTF-8).
+    // The entity that the text names (UTF-8): its identifier, the one entity in the explorer with
+    // exactly that name, or "G:NAME", the entity of that name in group G, which tells apart entities
+    // of one name in different groups.
     EntityId findEntity(const std::string& name) const;
     // The subgroup's entities in tree order: by name in natural order, as the panel lists them (the
     // explorer keeps them in identifier order, which means nothing to a reader).
@@ -57,11 +60,13 @@ public:
     const IEntity& getEntity(const EntityId& id) const;
     // The entity's name in UTF-8, in quotes.
     std::string quotedName(const EntityId& id) const;
-    // The names of the entities, quoted and separated by commas.
+    // The names of the entities, quoted and separated by commas; of a long list only the first
+    // names and a count.
     std::string quotedNames(const EntityIdList& entities) const;
 
 private:
     int groupCount() const;
+    std::optional<EntityId> findInGroup(const std::string& qualifiedName) const;
 
     host::CExplorerSession& session_;
 };

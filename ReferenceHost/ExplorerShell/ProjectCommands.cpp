@@ -1,9 +1,12 @@
 #include "ExplorerShell/ProjectCommands.h"
 
+#include "AecModel/Project.h"
 #include "AecModel/UndoHistory.h"
+#include "AecModel/UndoStepLabel.h"
 #include "Common/Exception.h"
 #include "ExplorerShell/CommandLine.h"
 #include "ExplorerShell/CommandTable.h"
+#include "ExplorerShell/UnsavedChanges.h"
 #include "HostFrame/ExplorerSession.h"
 #include "HostServices/HostServices.h"
 
@@ -65,7 +68,8 @@ void CProjectCommands::replay(bool undo, std::ostream& out)
     model::CUndoHistory& history = session_.getUndoHistory();
     if (!(undo ? history.canUndo() : history.canRedo()))
         throw common::EException(undo ? "There is nothing to undo." : "There is nothing to redo.");
-    const std::string name = (undo ? history.getUndoName() : history.getRedoName()).value_or("");
+    const std::vector<model::CUndoStep>& steps = undo ? history.getUndoSteps() : history.getRedoSteps();
+    const std::string name = model::undoStepLabel(steps.back(), session_.getProject());
     if (undo)
         history.undo();
     else
@@ -76,10 +80,11 @@ void CProjectCommands::replay(bool undo, std::ostream& out)
 void CProjectCommands::writeHistory(std::ostream& out)
 {
     const model::CUndoHistory& history = session_.getUndoHistory();
-    for (const std::string& name : history.getUndoNames())
-        out << "undo\t" << name << '\n';
-    for (const std::string& name : history.getRedoNames())
-        out << "redo\t" << name << '\n';
+    const model::CProject& project = session_.getProject();
+    for (auto step = history.getUndoSteps().rbegin(); step != history.getUndoSteps().rend(); ++step)
+        out << "undo\t" << model::undoStepLabel(*step, project) << '\n';
+    for (auto step = history.getRedoSteps().rbegin(); step != history.getRedoSteps().rend(); ++step)
+        out << "redo\t" << model::undoStepLabel(*step, project) << '\n';
 }
 
 void CProjectCommands::answer(const CCommandLine& line, std::ostream& out)
@@ -100,8 +105,15 @@ void CProjectCommands::save(const CCommandLine& line, std::ostream& out)
 
 void CProjectCommands::load(const CCommandLine& line, std::ostream& out)
 {
+    if (session_.hasProject())
+        CUnsavedChanges(session_).confirmDiscard("loading another project", "load");
     session_.load(pathFromUtf8(line.getArgument(0).text));
     out << "loaded: " << CCommandLine::quote(line.getArgument(0).text) << '\n';
+    const model::CProject& project = session_.getProject();
+    for (const std::string& note : project.getLoadNotes())
+        out << "note: " << note << '\n';
+    for (const std::string& warning : project.getPreferences().getWarnings())
+        out << "note: " << warning << '\n';
 }
 
 } // namespace aec::shell

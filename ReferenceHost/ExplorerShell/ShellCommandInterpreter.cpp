@@ -10,7 +10,9 @@
 #include "ExplorerShell/HostFeedback.h"
 #include "ExplorerShell/ProjectCommands.h"
 #include "ExplorerShell/SelectionCommands.h"
+#include "ExplorerShell/TopicCommands.h"
 #include "ExplorerShell/TreeCommands.h"
+#include "ExplorerShell/UnsavedChanges.h"
 #include "HostFrame/ExplorerSession.h"
 
 #include <algorithm>
@@ -33,8 +35,10 @@ std::string oneLine(std::string message)
 
 } // namespace
 
-CShellCommandInterpreter::CShellCommandInterpreter(aec::host::CExplorerSession& session, std::ostream& out)
-    : session_(session), out_(out), feedback_(std::make_unique<CHostFeedback>(session))
+CShellCommandInterpreter::CShellCommandInterpreter(aec::host::CExplorerSession& session, std::ostream& out,
+                                                   std::ostream* errors)
+    : session_(session), out_(out), errors_(errors != nullptr ? *errors : out),
+      feedback_(std::make_unique<CHostFeedback>(session))
 {
     treeCommands_ = std::make_unique<CTreeCommands>(session_, commands_);
     selectionCommands_ = std::make_unique<CSelectionCommands>(session_, commands_);
@@ -42,14 +46,17 @@ CShellCommandInterpreter::CShellCommandInterpreter(aec::host::CExplorerSession& 
     contextMenuCommands_ = std::make_unique<CContextMenuCommands>(session_, commands_);
     groupingCommands_ = std::make_unique<CGroupingCommands>(session_, commands_);
     projectCommands_ = std::make_unique<CProjectCommands>(session_, commands_);
+    topicCommands_ = std::make_unique<CTopicCommands>(session_, commands_);
     commands_.add({"help", "", "this list", 0, 0, false,
                    [this](const CCommandLine&, std::ostream& help)
                    {
                        commands_.writeHelp(help);
                    }});
-    commands_.add({"quit", "", "leave the shell", 0, 0, false,
+    commands_.add({"quit", "", "leave the shell, after confirmation if there are unsaved changes", 0, 0,
+                   false,
                    [this](const CCommandLine&, std::ostream&)
                    {
+                       CUnsavedChanges(session_).confirmDiscard("quitting", "quit");
                        quit_ = true;
                    }});
 }
@@ -60,6 +67,7 @@ bool CShellCommandInterpreter::execute(std::string_view line)
 {
     // Output waits until the command has succeeded, so that a failure shows only its error line.
     std::ostringstream output;
+    std::string error;
     try
     {
         run(line, output);
@@ -68,17 +76,20 @@ bool CShellCommandInterpreter::execute(std::string_view line)
     }
     catch (const common::EAssertionViolation& violation)
     {
-        out_ << "error: internal error: " << oneLine(violation.what()) << '\n';
+        error = "internal error: " + oneLine(violation.what());
     }
     catch (const std::exception& failure)
     {
-        out_ << "error: " << oneLine(failure.what()) << '\n';
+        error = oneLine(failure.what());
     }
     catch (...)
     {
-        out_ << "error: the command failed for an unknown reason\n";
+        error = "the command failed for an unknown reason";
     }
+    // What was printed before comes first, also where errors go to a stream of their own.
     out_.flush();
+    errors_ << "error: " << error << '\n';
+    errors_.flush();
     return false;
 }
 

@@ -20,6 +20,7 @@ class CGroupingCommands;
 class CHostFeedback;
 class CProjectCommands;
 class CSelectionCommands;
+class CTopicCommands;
 class CTreeCommands;
 
 // Runs what a user types into the terminal host against an explorer session, one line at a time,
@@ -33,17 +34,18 @@ class CTreeCommands;
 class CShellCommandInterpreter
 {
 public:
-    // The session must outlive the interpreter.
-    CShellCommandInterpreter(aec::host::CExplorerSession& session, std::ostream& out);
+    // The session must outlive the interpreter. Error lines go to `errors`, or to `out` without one.
+    CShellCommandInterpreter(aec::host::CExplorerSession& session, std::ostream& out,
+                             std::ostream* errors = nullptr);
     ~CShellCommandInterpreter();
     CShellCommandInterpreter(const CShellCommandInterpreter&) = delete;
     CShellCommandInterpreter& operator=(const CShellCommandInterpreter&) = delete;
 
     // Runs one command line (blank lines and lines starting with '#' do nothing and succeed).
-    // Prints the result to `out`; a failure prints exactly one line "error: ..." to `out`,
+    // Prints the result to `out`; a failure prints exactly one line "error: ..." to the errors,
     // leaves the project as it was and returns false. Never throws for bad input.
     bool execute(std::string_view line);
-    // After `quit`.
+    // After a `quit` that was not refused (unsaved changes the user kept).
     bool hasQuit() const noexcept;
 
 private:
@@ -53,6 +55,7 @@ private:
 
     aec::host::CExplorerSession& session_;
     std::ostream& out_;
+    std::ostream& errors_;
     std::unique_ptr<CHostFeedback> feedback_;
     CCommandTable commands_;
     std::unique_ptr<CTreeCommands> treeCommands_;
@@ -61,6 +64,7 @@ private:
     std::unique_ptr<CContextMenuCommands> contextMenuCommands_;
     std::unique_ptr<CGroupingCommands> groupingCommands_;
     std::unique_ptr<CProjectCommands> projectCommands_;
+    std::unique_ptr<CTopicCommands> topicCommands_;
     bool quit_ = false;
 };
 

@@ -29,6 +29,9 @@ public:
     Source getSource() const noexcept { return source_; }
     // The next line without its line break, or nothing at the end of the input.
     std::optional<std::string> readLine();
+    // Puts a yes/no question to the user at the terminal; only y or yes (in any case) is a yes, so
+    // that Enter, Ctrl+D and anything else keep what is there.
+    static bool askAtTerminal(const std::string& question);
 
 private:
     explicit CShellInput(Source source);

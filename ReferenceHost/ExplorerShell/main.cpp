@@ -95,9 +95,17 @@ int runShell(const ShellOptions& parsed)
 
     CShellInput input =
         parsed.script ? CShellInput::fromScript(*parsed.script) : CShellInput::fromStandardInput();
-    aec::shell::CShellCommandInterpreter interpreter(session, std::cout);
-    if (input.getSource() == CShellInput::Source::Terminal)
+    aec::shell::CShellCommandInterpreter interpreter(session, std::cout, &std::cerr);
+    const bool atTerminal = input.getSource() == CShellInput::Source::Terminal;
+    if (atTerminal)
     {
+        // Questions that no `answer` answered go to the user; scripts and pipes keep the default.
+        session.getHostServices().getDialogService().setAskCallback(
+            [](const aec::host::CScriptedDialogService::Question& question)
+            {
+                return CShellInput::askAtTerminal(aec::model::toUtf8(question.text)) ? aec::DialogAnswer::Yes
+                                                                                     : aec::DialogAnswer::No;
+            });
         std::cout << "Project explorer. Type help for the commands, quit to leave.\n";
         interpreter.execute("tree");
     }
@@ -107,7 +115,19 @@ int runShell(const ShellOptions& parsed)
     {
         const std::optional<std::string> line = input.readLine();
         if (!line)
-            break;
+        {
+            // The end of the input quits as `quit` does, with the same question about unsaved work.
+            if (atTerminal)
+                std::cout << '\n';
+            else if (session.hasUnsavedChanges())
+                std::cout << "> (end of input)\n";
+            if (interpreter.execute("quit"))
+                break;
+            // At a terminal the user goes on and saves; a script or a pipe has nothing more to say.
+            if (atTerminal)
+                continue;
+            return 1;
+        }
         // A transcript of a script or a pipe shows each command above its output.
         if (input.getSource() != CShellInput::Source::Terminal && !line->empty())
             std::cout << "> " << *line << '\n';

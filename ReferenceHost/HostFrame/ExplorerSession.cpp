@@ -12,6 +12,7 @@
 #include "HostFrame/ProjectBinding.h"
 #include "HostFrame/ServiceDecorator.h"
 #include "HostFrame/StatusService.h"
+#include "HostFrame/UnusedUuidProvider.h"
 #include "HostServices/HostServices.h"
 #include "ProjectExplorerLib/ProjectExplorerExports.h"
 #include "aec/ProjectExplorer.h"
@@ -35,8 +36,14 @@ CExplorerSession::CExplorerSession(std::optional<std::uint64_t> uuidSeed, IServi
 {
     // Identifiers are made from the first factory on, and the sample project a host program may
     // open next is made with them too.
-    project_explorer::setUuidProvider(uuidSeed ? std::make_shared<common::CSequentialUuidProvider>(*uuidSeed)
-                                               : nullptr);
+    std::shared_ptr<common::IUuidProvider> source;
+    if (uuidSeed)
+        source = std::make_shared<common::CSequentialUuidProvider>(*uuidSeed);
+    project_explorer::setUuidProvider(std::make_shared<CUnusedUuidProvider>(
+        std::move(source),
+        [this](const common::UUID& candidate) {
+            return binding_ != nullptr && binding_->getProject().findEntity(EntityId(candidate)) != nullptr;
+        }));
     try
     {
         hostServices_ = std::make_unique<CHostServices>();
@@ -103,12 +110,18 @@ void CExplorerSession::open(std::unique_ptr<model::CProject> project)
 {
     COMMON_PRECONDITION(project != nullptr);
     close();
+    // What the user sees on opening is the baseline of unsaved changes, whether it came from a file
+    // or was made by the program.
+    project->getUndoHistory().markSaved();
     binding_ = std::make_unique<CProjectBinding>(
         CProjectBinding::ApplicationParts{*hostServices_, *libraryServices_, serviceDecorator_, *viewCreator_,
                                           *controllerFactory_, *gui_, *statusService_, *panelOwner_, *panel_},
         std::move(project));
 
-    const std::vector<std::string>& warnings = binding_->getProject().getPreferences().getWarnings();
+    const model::CProject& opened = binding_->getProject();
+    std::vector<std::string> warnings = opened.getLoadNotes();
+    const std::vector<std::string>& preferenceWarnings = opened.getPreferences().getWarnings();
+    warnings.insert(warnings.end(), preferenceWarnings.begin(), preferenceWarnings.end());
     if (!warnings.empty())
         statusService_->showStatus(model::fromUtf8(fmt::format("{}", fmt::join(warnings, " "))));
 }
@@ -122,6 +135,12 @@ void CExplorerSession::save(const std::filesystem::path& path) const
 {
     COMMON_PRECONDITION(binding_ != nullptr);
     model::CProjectFile::save(binding_->getProject(), path);
+    binding_->getProject().getUndoHistory().markSaved();
+}
+
+bool CExplorerSession::hasUnsavedChanges() const noexcept
+{
+    return binding_ != nullptr && binding_->getProject().getUndoHistory().isModified();
 }
 
 void CExplorerSession::close() noexcept

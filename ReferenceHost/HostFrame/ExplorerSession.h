@@ -49,10 +49,10 @@ class IServiceDecorator;
 // does.
 //
 // Construction installs the uuid provider (reproducible identifiers from a seed, else fresh random
-// ones) and makes the application-wide parts: the host services, the GUI, the status line, the
-// panel and the library's factories, in the library's start-up order. Opening a project then
-// makes its controller, its view bound to the GUI and its root activity, which stays active: the
-// explorer is the only view of this host. Opening another project replaces all of these; the GUI,
+// ones, never one that the open project already uses) and makes the application-wide parts: the host
+// services, the GUI, the status line, the panel and the library's factories, in the library's start-up order.
+// Opening a project then makes its controller, its view bound to the GUI and its root activity, which stays
+// active: the explorer is the only view of this host. Opening another project replaces all of these; the GUI,
 // the panel and the host services stay, and so do the connections a host program made to them.
 //
 // A service decorator, when given, stands between the library and the host's services: the library
@@ -79,7 +79,11 @@ public:
     // as it was. What the stored explorer state lost on the way is shown on the status line.
     void load(const std::filesystem::path& path);
     // Saves the open project with its explorer state; throws common::EException when it cannot.
+    // The saved state is then the project's clean state.
     void save(const std::filesystem::path& path) const;
+    // Whether the open project has changes that no file holds: its undo history has moved away from
+    // where it was opened or last saved.
+    bool hasUnsavedChanges() const noexcept;
     void close() noexcept;
     bool hasProject() const noexcept;
 

@@ -27,7 +27,7 @@ TEST(EntityTypeHandlerTest, NewEntitiesTakeTheFirstFreeNumberedName)
     CEntityTypeHandler sheets(project, EntityCollection::Sheets);
     CEntityTypeHandler doorStyles(project, EntityCollection::DoorStyles);
     project.addEntity(EntityCollection::Sheets, L"Sheet 2");
-    project.addEntity(EntityCollection::Sheets, L"sheet 3"); // another name: names compare exactly
+    project.addEntity(EntityCollection::Sheets, L"sheet 03"); // the same name in natural order
     project.addEntity(EntityCollection::Tables, L"Sheet 1"); // another collection
 
     const EntityId first = freshId();
@@ -35,7 +35,7 @@ TEST(EntityTypeHandlerTest, NewEntitiesTakeTheFirstFreeNumberedName)
     sheets.create(first);
     sheets.create(second);
     EXPECT_EQ(project.findEntity(first)->getName(), L"Sheet 1");
-    EXPECT_EQ(project.findEntity(second)->getName(), L"Sheet 3");
+    EXPECT_EQ(project.findEntity(second)->getName(), L"Sheet 4");
 
     sheets.remove(first);
     EXPECT_EQ(project.findEntity(first), nullptr);
@@ -77,8 +77,12 @@ TEST(EntityTypeHandlerTest, RenameRefusesBlankNamesAndNamesOfOtherEntities)
         return refusalOf(materials, oak, name);
     };
     EXPECT_EQ(refusal(L"Beech"), "There is already a material named \"Beech\"; choose another name.");
-    EXPECT_NE(refusal(L" \t").find("A material needs a name"), std::string::npos);
-    EXPECT_NE(refusal(L"").find("A material needs a name"), std::string::npos);
+    // One name to the user is one name: case and leading zeros do not tell names apart, and the
+    // message names the material that has it, as it is spelled.
+    EXPECT_EQ(refusal(L" bEECH "), "There is already a material named \"Beech\"; choose another name.");
+    for (const std::wstring blank : {L"", L" \t", L"\u200B\u00A0", L"\x01\x02"})
+        EXPECT_NE(refusal(blank).find("A material needs a name"), std::string::npos);
+    EXPECT_NE(refusal(L"Oak\nfloor").find("control character"), std::string::npos);
     EXPECT_EQ(project.canonicalDump(), before);
 
     EXPECT_EQ(refusal(L"Oak"), "accepted");
@@ -87,6 +91,10 @@ TEST(EntityTypeHandlerTest, RenameRefusesBlankNamesAndNamesOfOtherEntities)
     EXPECT_EQ(refusal(L"pine"), "accepted");
     EXPECT_EQ(project.findEntity(oak)->getName(), L"pine");
     EXPECT_EQ(project.findEntity(table)->getName(), L"Pine");
+    EXPECT_EQ(refusal(L"\u3000 Pine 02\t"), "accepted");
+    EXPECT_EQ(project.findEntity(oak)->getName(), L"Pine 02");
+    project.addEntity(EntityCollection::Materials, L"Pine 3");
+    EXPECT_NE(refusal(L"pine 003").find("\"Pine 3\""), std::string::npos);
 
     CEntityTypeHandler assemblies(project, EntityCollection::Assemblies);
     const EntityId stair = project.addEntity(EntityCollection::Assemblies, L"Stair");
@@ -94,7 +102,7 @@ TEST(EntityTypeHandlerTest, RenameRefusesBlankNamesAndNamesOfOtherEntities)
     EXPECT_EQ(refusalOf(assemblies, stair, L"Ramp"),
               "There is already an assembly named \"Ramp\"; choose another name.");
     EXPECT_EQ(refusalOf(assemblies, stair, L""),
-              "An assembly needs a name; type at least one letter or digit.");
+              "An assembly needs a name with at least one visible character.");
 }
 
 TEST(EntityTypeHandlerTest, EntitiesOfAnotherCollectionAreAContractViolation)

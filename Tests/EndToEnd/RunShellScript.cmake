@@ -37,25 +37,29 @@ foreach(directive IN LISTS directives)
     endif()
 endforeach()
 
+# Errors go to stderr, the rest to stdout; both are written to one pipe, as a terminal shows them,
+# so that each error stands below the command that made it (the shell flushes stdout before an
+# error).
 function(run_shell transcript)
     file(REMOVE_RECURSE ${WORK_DIR})
     file(MAKE_DIRECTORY ${WORK_DIR})
     file(COPY ${DATA_DIR}/ DESTINATION ${WORK_DIR})
+    set(merged sh -c "exec \"$0\" \"$@\" 2>&1" ${SHELL} ${arguments} --seed 7)
     if(feed STREQUAL "stdin")
-        execute_process(COMMAND ${SHELL} ${arguments} --seed 7
+        execute_process(COMMAND ${merged}
             INPUT_FILE ${SCRIPT} WORKING_DIRECTORY ${WORK_DIR}
-            OUTPUT_VARIABLE output ERROR_VARIABLE errors RESULT_VARIABLE status)
+            OUTPUT_VARIABLE output RESULT_VARIABLE status)
     else()
-        execute_process(COMMAND ${SHELL} ${arguments} --seed 7 --script ${SCRIPT}
+        execute_process(COMMAND ${merged} --script ${SCRIPT}
             WORKING_DIRECTORY ${WORK_DIR}
-            OUTPUT_VARIABLE output ERROR_VARIABLE errors RESULT_VARIABLE status)
+            OUTPUT_VARIABLE output RESULT_VARIABLE status)
     endif()
     if(NOT status STREQUAL expected_status)
         message(FATAL_ERROR "explorer-shell ended with status ${status}, not ${expected_status}.\n"
-                            "stdout:\n${output}\nstderr:\n${errors}")
+                            "output:\n${output}")
     endif()
-    if(NOT errors STREQUAL "")
-        message(FATAL_ERROR "explorer-shell wrote to stderr:\n${errors}")
+    if(output MATCHES "internal error")
+        message(FATAL_ERROR "explorer-shell showed an internal error:\n${output}")
     endif()
     set(${transcript} "${output}" PARENT_SCOPE)
 endfunction()

@@ -3,6 +3,7 @@
 #include "AecModel/UndoHistory.h"
 #include "DesktopTestSupport.h"
 #include "ExplorerDesktop/ButtonComboBox.h"
+#include "ExplorerDesktop/CommandRunner.h"
 #include "ExplorerDesktop/DocumentArea.h"
 #include "ExplorerDesktop/EntityPage.h"
 #include "ExplorerDesktop/ExplorerItemModel.h"
@@ -160,19 +161,47 @@ private Q_SLOTS:
                      QString("Door 1010"));
         QVERIFY(!window_->getTreeView().isEditing());
 
+        // The menu speaks of what changed, not of the transaction's name; the title marks the change.
         QAction& undo = window_->getAction("undo");
-        const QString stepName = QString::fromStdString(session_->getUndoHistory().getUndoName().value());
-        QVERIFY2(undo.text().endsWith(stepName), qPrintable(undo.text()));
+        QCOMPARE(undo.text(), QString("&Undo Rename door style “Door 1010”"));
+        QVERIFY(window_->isWindowModified());
+        QVERIFY(window_->windowTitle().contains("[*]"));
         undo.trigger();
         QCOMPARE(QString::fromStdWString(session_->getProject().findEntity(id)->getName()),
                  QString("Door 1000"));
-        QVERIFY(window_->getAction("redo").text().endsWith(stepName));
+        QCOMPARE(window_->getAction("redo").text(), QString("&Redo Rename door style “Door 1010”"));
         QVERIFY(!undo.isEnabled());
+        QVERIFY2(!window_->isWindowModified(), "undone back to the project as it was opened");
 
         // Entities of groups without grouping are not renamable.
         window_->getTreeView().selectionModel()->select(entityIndex(L"Logo"),
                                                         QItemSelectionModel::ClearAndSelect);
         QVERIFY(!rename.isEnabled());
+    }
+
+    void closingAndOpeningAskBeforeUnsavedChangesAreLost()
+    {
+        QStringList asked;
+        QMessageBox::StandardButton answer = QMessageBox::Cancel;
+        window_->setUnsavedChangesQuestion(
+            [&](const QString& action)
+            {
+                asked << action;
+                return answer;
+            });
+        QVERIFY2(window_->close(), "nothing unsaved, nothing asked");
+        QVERIFY(asked.isEmpty());
+        window_->show();
+
+        const EntityId door = window_->getModel().nodeAt(entityIndex(L"Door 1000"))->getEntity();
+        QVERIFY(window_->getCommandRunner().run(
+            [this, &door] { session_->getEntityController().renameEntity(door, L"Door 1010"); }));
+        QVERIFY(window_->isWindowModified());
+        QVERIFY2(!window_->close(), "Cancel keeps the window");
+        QCOMPARE(asked.size(), 1);
+        answer = QMessageBox::Discard;
+        QVERIFY(window_->close());
+        QCOMPARE(asked.size(), 2);
     }
 
     void editActionsFollowTheSelectionAndDeleteAsksFirst()

@@ -1,0 +1,123 @@
+#include "AecModel/Project.h"
+#include "AecModel/ProjectFile.h"
+#include "AecModel/SampleProject.h"
+#include "Common/Exception.h"
+#include "TemporaryDirectory.h"
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace aec::model
+{
+namespace
+{
+
+namespace fs = std::filesystem;
+
+// Saving the sample project over files of every kind that a user meets.
+class SafeSaveTest : public ::testing::Test
+{
+protected:
+    static std::string read(const fs::path& path)
+    {
+        std::ifstream stream(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+    }
+
+    // The message of a save that must fail.
+    std::string failedSave(const fs::path& path) const
+    {
+        try
+        {
+            CProjectFile::save(*project, path);
+        }
+        catch (const common::EException& error)
+        {
+            return error.what();
+        }
+        ADD_FAILURE() << "saved " << path;
+        return {};
+    }
+
+    // The names in the folder: a failed save must leave no file of its own behind.
+    std::vector<std::string> namesInFolder() const
+    {
+        std::vector<std::string> names;
+        for (const fs::directory_entry& entry : fs::directory_iterator(directory))
+            names.push_back(entry.path().filename().string());
+        std::ranges::sort(names);
+        return names;
+    }
+
+    test::CTemporaryDirectory temporary{"aec-safe-save-"};
+    const fs::path& directory = temporary.path();
+    std::unique_ptr<CProject> project = buildSampleProject();
+};
+
+TEST_F(SafeSaveTest, ALinkStaysALinkAndTheFileItLeadsToIsSaved)
+{
+    const fs::path real = temporary.write("real.json", "old");
+    fs::create_directory(directory / "links");
+    fs::create_symlink("../real.json", directory / "links" / "project.json");
+
+    CProjectFile::save(*project, directory / "links" / "project.json");
+
+    EXPECT_TRUE(fs::is_symlink(directory / "links" / "project.json"));
+    EXPECT_EQ(CProjectFile::load(real)->canonicalDump(), project->canonicalDump());
+}
+
+TEST_F(SafeSaveTest, TheFilesModeIsKept)
+{
+    const fs::path shared = temporary.write("shared.json", "old");
+    fs::permissions(shared, fs::perms(0640));
+    CProjectFile::save(*project, shared);
+    EXPECT_EQ(fs::status(shared).permissions(), fs::perms(0640));
+}
+
+TEST_F(SafeSaveTest, AReadOnlyFileIsRefused)
+{
+    // The superuser may write any file; the refusal is for everyone else.
+    if (::geteuid() == 0)
+        GTEST_SKIP() << "running as the superuser";
+    const fs::path readOnly = temporary.write("read-only.json", "old");
+    fs::permissions(readOnly, fs::perms(0444));
+    EXPECT_NE(failedSave(readOnly).find("you may not write it"), std::string::npos);
+    EXPECT_EQ(read(readOnly), "old");
+    EXPECT_EQ(fs::status(readOnly).permissions(), fs::perms(0444));
+}
+
+TEST_F(SafeSaveTest, FailuresLeaveTheOldFileAndNoTemporaryFile)
+{
+    const fs::path target = temporary.write("project.json", "old");
+
+    // A device is no file to replace: /dev/full takes no byte, and renaming over it would remove it.
+    EXPECT_NE(failedSave("/dev/full").find("not a regular file"), std::string::npos);
+    EXPECT_NE(failedSave(directory).find("not a regular file"), std::string::npos);
+
+    // A file size limit fails the write the way a full disk does.
+    struct rlimit before
+    {
+    };
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    const auto previousHandler = std::signal(SIGXFSZ, SIG_IGN);
+    struct rlimit limited = before;
+    limited.rlim_cur = 16;
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limited), 0);
+    const std::string message = failedSave(target);
+    ::setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, previousHandler);
+
+    EXPECT_NE(message.find("not enough room"), std::string::npos) << message;
+    EXPECT_NE(message.find(target.string()), std::string::npos) << message;
+    EXPECT_EQ(read(target), "old");
+    EXPECT_EQ(namesInFolder(), std::vector<std::string>{"project.json"});
+}
+
+} // namespace
+} // namespace aec::model
