@@ -7,9 +7,10 @@
 #include <vector>
 
 // <windows.h> comes first: the other Windows headers rely on its types.
+// clang-format off
 #include <windows.h>
-
 #include <shlwapi.h>
+// clang-format on
 
 namespace
 {

@@ -6,9 +6,10 @@
 #include <string>
 
 // <windows.h> comes first: the other Windows headers rely on its types.
+// clang-format off
 #include <windows.h>
-
 #include <shlwapi.h>
+// clang-format on
 
 namespace common
 {

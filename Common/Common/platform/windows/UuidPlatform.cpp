@@ -6,9 +6,10 @@
 #include <string>
 
 // <windows.h> comes first: the other Windows headers rely on its types.
+// clang-format off
 #include <windows.h>
-
 #include <rpc.h>
+// clang-format on
 
 // The RPC runtime's UUID functions. A ::GUID has exactly UUID's storage layout (a 32-bit and two
 // 16-bit fields, little-endian, then eight bytes), so the bytes are copied across unchanged.
