@@ -27,6 +27,35 @@ std::uint32_t codeUnit(wchar_t character) noexcept
     return static_cast<std::uint32_t>(character);
 }
 
+// One character of a name: a code unit, or the two code units of a UTF-16 surrogate pair.
+struct Character
+{
+    std::uint32_t codePoint;
+    std::size_t units;
+};
+
+bool isHighSurrogate(std::uint32_t unit) noexcept
+{
+    return unit - 0xD800u < 0x400u;
+}
+
+bool isLowSurrogate(std::uint32_t unit) noexcept
+{
+    return unit - 0xDC00u < 0x400u;
+}
+
+// Windows hands names over as UTF-16 (a 16-bit wchar_t), Linux as UTF-32, so a character outside
+// the Basic Multilingual Plane arrives as a surrogate pair or as one code unit. Both read as the
+// one code point, on either platform, so that a name sorts the same wherever it is compared. A
+// surrogate without its partner is a code point of its own (one that is no character).
+Character characterAt(const wchar_t* at, const wchar_t* end) noexcept
+{
+    const std::uint32_t unit = codeUnit(*at);
+    if (isHighSurrogate(unit) && end - at >= 2 && isLowSurrogate(codeUnit(at[1])))
+        return {0x10000u + ((unit - 0xD800u) << 10) + (codeUnit(at[1]) - 0xDC00u), 2};
+    return {unit, 1};
+}
+
 bool isAsciiDigit(wchar_t character) noexcept
 {
     return codeUnit(character) - U'0' < 10u;
@@ -44,7 +73,13 @@ wchar_t foldAsciiCase(wchar_t character) noexcept
     return codeUnit(character) - U'A' < 26u ? static_cast<wchar_t>(character | 0x20) : character;
 }
 
-#if defined(__SSE2__)
+// The block scan compares 32-bit code units; with a 16-bit wchar_t (Windows) the scan goes one code
+// unit at a time.
+#if defined(__SSE2__) && __SIZEOF_WCHAR_T__ == 4
+#define COMMON_LOGICAL_COMPARE_SSE2 1
+#endif
+
+#if defined(COMMON_LOGICAL_COMPARE_SSE2)
 static_assert(sizeof(wchar_t) == 4, "the scan compares 32-bit code units");
 
 // The block helpers below are forced inline: GCC keeps them out of line otherwise, and the calls
@@ -90,7 +125,7 @@ std::size_t commonPrefixLength(const wchar_t* left, const wchar_t* right, std::s
     // Names from unrelated places of a list mostly differ at once; they need no block compare.
     if (length == 0 || foldAsciiCase(left[0]) != foldAsciiCase(right[0]))
         return 0;
-#if defined(__SSE2__)
+#if defined(COMMON_LOGICAL_COMPARE_SSE2)
     if (length >= 8)
     {
         std::size_t same = 0;
@@ -151,7 +186,7 @@ int compareDigitRuns(const wchar_t*& left, const wchar_t* leftEnd, const wchar_t
 
 } // namespace
 
-int compareLogical(std::wstring_view leftText, std::wstring_view rightText) noexcept
+int compareLogicalPortable(std::wstring_view leftText, std::wstring_view rightText) noexcept
 {
     const wchar_t* left = leftText.data();
     const wchar_t* const leftEnd = left + leftText.size();
@@ -165,15 +200,23 @@ int compareLogical(std::wstring_view leftText, std::wstring_view rightText) noex
         // starts after a non-digit, so a digit run that reaches into the shared part starts inside
         // it and is the same in both names up to the difference.
         const wchar_t* const roundStart = left;
-        const std::size_t same = commonPrefixLength(
+        std::size_t same = commonPrefixLength(
             left, right, static_cast<std::size_t>(std::min(leftEnd - left, rightEnd - right)));
+        // The difference may split a surrogate pair whose first half both names share; the round
+        // then looks at the whole characters.
+        if (same != 0 && isHighSurrogate(codeUnit(left[same - 1])) &&
+            ((left + same < leftEnd && isLowSurrogate(codeUnit(left[same]))) ||
+             (right + same < rightEnd && isLowSurrogate(codeUnit(right[same])))))
+            --same;
         left += same;
         right += same;
 
+        const Character leftCharacter = left < leftEnd ? characterAt(left, leftEnd) : Character{0, 0};
+        const Character rightCharacter = right < rightEnd ? characterAt(right, rightEnd) : Character{0, 0};
         const std::uint32_t leftWeight =
-            left < leftEnd ? weights::weightOf(codeUnit(*left)) : weights::endOfText;
+            left < leftEnd ? weights::weightOf(leftCharacter.codePoint) : weights::endOfText;
         const std::uint32_t rightWeight =
-            right < rightEnd ? weights::weightOf(codeUnit(*right)) : weights::endOfText;
+            right < rightEnd ? weights::weightOf(rightCharacter.codePoint) : weights::endOfText;
         // Most differences are between two characters and settle the order at once; only a digit
         // at the difference may be part of a number that began in the shared part.
         if (leftWeight == weights::asciiDigit || rightWeight == weights::asciiDigit)
@@ -222,8 +265,8 @@ int compareLogical(std::wstring_view leftText, std::wstring_view rightText) noex
         {
             return orderOf(codeUnit(*left), codeUnit(*right));
         }
-        ++left;
-        ++right;
+        left += leftCharacter.units;
+        right += rightCharacter.units;
     }
 }
 

@@ -11,8 +11,13 @@ namespace common
 // file lists: "Item 2" < "item 3" < "Item 10", and "Wall" equals "wall". Returns -1 when `left`
 // comes first, 1 when `right` comes first and 0 when the two are the same name to the user.
 //
+// This is the portable comparison, the same on every platform; compareLogical below is the one the
+// explorer orders by.
+//
 // A name is read as a sequence of tokens: maximal runs of the ASCII digits 0-9, and single
-// characters. Each wchar_t is one code point (UTF-32).
+// characters. A wchar_t is one code point (UTF-32), or half of a UTF-16 surrogate pair, which
+// reads as the one character it encodes: a name compares the same with a 16-bit wchar_t (Windows)
+// and a 32-bit one.
 //
 // Primary order: tokens compare one by one, the first difference decides.
 //  - Two digit runs compare by numeric value, of any length and without overflow. Leading zeros
@@ -50,7 +55,19 @@ namespace common
 // weights and then of accent weights lexicographically, and each character weighs the same
 // wherever it stands. It allocates nothing, needs no locale, and runs in time linear in the
 // length of the names, touching each code unit a bounded number of times.
+COMMON_API int compareLogicalPortable(std::wstring_view left, std::wstring_view right) noexcept;
+
+// The platform's natural order of names, -1, 0 or 1 as above. On Windows it is the shell's own
+// (StrCmpLogicalW), so that the explorer orders names exactly as the host's other lists do; it
+// reads each name up to its first NUL. Elsewhere it is the portable comparison.
+#if defined(_WIN32)
 COMMON_API int compareLogical(std::wstring_view left, std::wstring_view right) noexcept;
+#else
+inline int compareLogical(std::wstring_view left, std::wstring_view right) noexcept
+{
+    return compareLogicalPortable(left, right);
+}
+#endif
 
 // Ascending natural order, for ordered containers; transparent, so string views find keys.
 struct LogicalLess

@@ -1,12 +1,10 @@
 #include "Common/UUID.h"
 
 #include "Common/Check.h"
+#include "Common/UuidPlatform.h"
 #include "Common/UuidProvider.h"
-#include "Common/UuidText.h"
 
-#include <cerrno>
 #include <ostream>
-#include <sys/random.h>
 
 namespace common
 {
@@ -22,17 +20,23 @@ std::basic_string_view<Char> withoutBraces(std::basic_string_view<Char> text) no
     return text;
 }
 
+template <class Char>
+std::optional<UUID> readWithoutBraces(std::basic_string_view<Char> text) noexcept
+{
+    UUID uuid;
+    if (uuid_platform::read(withoutBraces(text), uuid) != uuid_platform::Status::ok)
+        return std::nullopt;
+    return uuid;
+}
+
 } // namespace
 
 UUID UUID::create()
 {
-    Bytes randomBytes{};
-    ssize_t received = 0;
-    do
-        received = ::getrandom(randomBytes.data(), randomBytes.size(), 0);
-    while (received < 0 && errno == EINTR);
-    COMMON_CHECK(received == static_cast<ssize_t>(randomBytes.size()));
-    return version4FromRandomBytes(randomBytes);
+    UUID uuid;
+    // Even a UUID unique to this computer only is a failure: identifiers travel between projects.
+    COMMON_CHECK(uuid_platform::create(uuid) == uuid_platform::Status::ok);
+    return uuid;
 }
 
 UUID UUID::generate()
@@ -48,41 +52,43 @@ UUID UUID::generate()
     return uuid;
 }
 
+// The narrow parse rejects only what the platform calls no UUID text, the wide one every failure:
+// the two platform functions differ in what else they may report, and so do the two parses.
 UUID UUID::parse(std::string_view text)
 {
-    const std::optional<UUID> uuid = tryParse(text);
-    COMMON_PRECONDITION(uuid.has_value());
-    return *uuid;
+    UUID uuid;
+    COMMON_PRECONDITION(uuid_platform::read(withoutBraces(text), uuid) != uuid_platform::Status::notAUuid);
+    return uuid;
 }
 
 UUID UUID::parse(std::wstring_view text)
 {
-    const std::optional<UUID> uuid = tryParse(text);
-    COMMON_PRECONDITION(uuid.has_value());
-    return *uuid;
+    UUID uuid;
+    COMMON_PRECONDITION(uuid_platform::read(withoutBraces(text), uuid) == uuid_platform::Status::ok);
+    return uuid;
 }
 
 std::optional<UUID> UUID::tryParse(std::string_view text) noexcept
 {
-    return uuid_text::read(withoutBraces(text));
+    return readWithoutBraces(text);
 }
 
 std::optional<UUID> UUID::tryParse(std::wstring_view text) noexcept
 {
-    return uuid_text::read(withoutBraces(text));
+    return readWithoutBraces(text);
 }
 
 std::string UUID::toString() const
 {
     char text[textLength];
-    uuid_text::write(*this, text);
+    COMMON_CHECK(uuid_platform::write(*this, text) == uuid_platform::Status::ok);
     return std::string(text, textLength);
 }
 
 std::wstring UUID::toWString() const
 {
     wchar_t text[textLength];
-    uuid_text::write(*this, text);
+    COMMON_CHECK(uuid_platform::write(*this, text) == uuid_platform::Status::ok);
     return std::wstring(text, textLength);
 }
 

@@ -42,8 +42,9 @@ public:
     // Stamps the RFC 4122 version 4 and variant bits onto 16 random bytes.
     static constexpr UUID version4FromRandomBytes(Bytes randomBytes) noexcept;
 
-    // A fresh version-4 UUID from the kernel's random source, bypassing any installed provider.
-    // Throws ECheckViolation when the random source fails.
+    // A fresh random UUID from the platform's generator (the RPC runtime on Windows, the kernel's
+    // random source elsewhere), bypassing any installed provider. Throws ECheckViolation when the
+    // generator fails, also when Windows can only promise a UUID unique to this computer.
     static UUID create();
 
     // A fresh UUID from the installed provider (recorded in the installed journal, if any), or from

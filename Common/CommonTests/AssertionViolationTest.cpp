@@ -1,9 +1,8 @@
 #include "Common/Check.h"
 #include "Common/Exception.h"
 
-#include <gtest/gtest.h>
-
 #include <climits>
+#include <gtest/gtest.h>
 #include <string>
 
 namespace
@@ -30,9 +29,10 @@ TEST(AssertionViolationTest, MessageNamesFileAndLineWhateverTheKind)
 
 TEST(AssertionViolationTest, MessageThatDoesNotFitThrowsLengthError)
 {
-    const std::string longestFitting(EAssertionViolation::messageCapacity - 21 - 3, 'f');
-    EXPECT_EQ(messageOf(EAssertionViolation(longestFitting.c_str(), 1)).size(),
-              EAssertionViolation::messageCapacity);
+    // Taken by value: a DLL does not export the constant itself, so its address is not to be had.
+    constexpr std::size_t capacity = EAssertionViolation::messageCapacity;
+    const std::string longestFitting(capacity - 21 - 3, 'f');
+    EXPECT_EQ(messageOf(EAssertionViolation(longestFitting.c_str(), 1)).size(), capacity);
 
     const std::string tooLong = longestFitting + "f";
     try

@@ -13,7 +13,7 @@
 namespace
 {
 
-using common::compareLogical;
+using common::compareLogicalPortable;
 using Names = std::vector<std::wstring>;
 
 const std::wstring asciiPunctuationOrder = L"'- !\"#$%&()*,./:;?@[\\]^_`{|}~+<=>";
@@ -24,9 +24,9 @@ void expectAscending(const Names& names)
     for (std::size_t first = 0; first < names.size(); ++first)
         for (std::size_t second = first + 1; second < names.size(); ++second)
         {
-            EXPECT_EQ(compareLogical(names[first], names[second]), -1)
+            EXPECT_EQ(compareLogicalPortable(names[first], names[second]), -1)
                 << names[first] << " < " << names[second];
-            EXPECT_EQ(compareLogical(names[second], names[first]), 1)
+            EXPECT_EQ(compareLogicalPortable(names[second], names[first]), 1)
                 << names[second] << " > " << names[first];
         }
 }
@@ -35,7 +35,7 @@ void expectEquivalent(const Names& names)
 {
     for (const auto& first : names)
         for (const auto& second : names)
-            EXPECT_EQ(compareLogical(first, second), 0) << first << " == " << second;
+            EXPECT_EQ(compareLogicalPortable(first, second), 0) << first << " == " << second;
 }
 
 TEST(LogicalCompareTest, NumbersByValueLettersWithoutCase)
@@ -103,7 +103,8 @@ TEST(LogicalCompareTest, DifferenceFoundAtEveryPositionBehindCaseDifferences)
             const std::wstring name = letters.substr(0, length);
             std::wstring shouted = name;
             std::transform(shouted.begin(), shouted.begin() + static_cast<std::ptrdiff_t>(at + 1),
-                           shouted.begin(), [](wchar_t letter) { return static_cast<wchar_t>(letter - 0x20); });
+                           shouted.begin(),
+                           [](wchar_t letter) { return static_cast<wchar_t>(letter - 0x20); });
             std::wstring nextLetter = name;
             ++nextLetter[at];
             std::wstring accented = name;
@@ -118,12 +119,70 @@ TEST(LogicalCompareTest, DifferenceFoundAtEveryPositionBehindCaseDifferences)
         }
 }
 
+// Only a 32-bit wchar_t (Linux) holds code units beyond Unicode.
+#if __SIZEOF_WCHAR_T__ == 4
 TEST(LogicalCompareTest, CodeUnitsBeyondUnicodeLastByValue)
 {
     Names names;
     for (const std::uint32_t unit : {0x7Au, 0x10FFFFu, 0x110000u, 0x110001u, 0xFFFFFFFFu})
         names.push_back(L"Door " + std::wstring(1, static_cast<wchar_t>(unit)));
     expectAscending(names);
+}
+#endif
+
+template <class Value>
+int orderOf(const Value& left, const Value& right);
+
+// A name as UTF-16: characters beyond the Basic Multilingual Plane as surrogate pairs.
+std::wstring asUtf16(const std::u32string& name)
+{
+    std::wstring units;
+    for (const char32_t character : name)
+        if (character >= 0x10000)
+        {
+            units += static_cast<wchar_t>(0xD800 + ((character - 0x10000) >> 10));
+            units += static_cast<wchar_t>(0xDC00 + ((character - 0x10000) & 0x3FF));
+        }
+        else
+            units += static_cast<wchar_t>(character);
+    return units;
+}
+
+// The name as this platform's wchar_t holds it: UTF-32 on Linux, UTF-16 on Windows.
+std::wstring asNative(const std::u32string& name)
+{
+    if constexpr (sizeof(wchar_t) == 4)
+        return std::wstring(name.begin(), name.end());
+    else
+        return asUtf16(name);
+}
+
+TEST(LogicalCompareTest, CharactersBeyondTheBasicPlaneReadAlikeAsPairsAndAsOneUnit)
+{
+    // A symbol before the letters, Latin before Deseret (whose letters share their high surrogate and
+    // differ in the low one), ideographs in code point order across the planes.
+    const std::vector<std::u32string> ascending{U"x😀", U"xa", U"x𐐀 1", U"x𐐀 2", U"x𐐁", U"x一", U"x𠀀"};
+    Names native;
+    Names utf16;
+    for (const std::u32string& name : ascending)
+    {
+        native.push_back(asNative(name));
+        utf16.push_back(asUtf16(name));
+    }
+    expectAscending(native);
+    expectAscending(utf16);
+    for (std::size_t first = 0; first < ascending.size(); ++first)
+        for (std::size_t second = 0; second < ascending.size(); ++second)
+            EXPECT_EQ(compareLogicalPortable(native[first], utf16[second]), orderOf(first, second))
+                << first << " against " << second;
+
+    // Deseret has case too.
+    expectEquivalent({asNative(U"Door 𐐀"), asUtf16(U"door 𐐨")});
+    // A surrogate without its partner is no character and sorts after every letter, also where
+    // the name with the whole pair shares its first half.
+    const std::wstring loneHigh{L'x', static_cast<wchar_t>(0xD801), L'A'};
+    expectAscending({asUtf16(U"x𐐀"), loneHigh});
+    expectAscending({asNative(U"x𐐀"), loneHigh});
 }
 
 TEST(LogicalCompareTest, ComparatorsOrderAndMergeMapKeys)
@@ -242,14 +301,15 @@ TEST(LogicalCompareTest, StrictWeakOrderingAgreeingWithReferenceOnCorpus)
     for (std::size_t index = 0; index < corpus.size(); ++index)
         sorted.insert(std::upper_bound(sorted.begin(), sorted.end(), index,
                                        [&corpus](std::size_t left, std::size_t right)
-                                       { return compareLogical(corpus[left], corpus[right]) < 0; }),
+                                       { return compareLogicalPortable(corpus[left], corpus[right]) < 0; }),
                       index);
     // Ranks along the sorted list: it is a strict weak ordering on the corpus exactly when every
     // pair compares as its ranks do, which covers irreflexivity, antisymmetry and the
     // transitivity of both "less" and "equivalent".
     std::vector<std::ptrdiff_t> rank(sorted.size());
     for (std::size_t at = 1; at < sorted.size(); ++at)
-        rank[at] = rank[at - 1] + (compareLogical(corpus[sorted[at - 1]], corpus[sorted[at]]) < 0 ? 1 : 0);
+        rank[at] =
+            rank[at - 1] + (compareLogicalPortable(corpus[sorted[at - 1]], corpus[sorted[at]]) < 0 ? 1 : 0);
 
     std::vector<std::optional<ReferenceKey>> reference;
     for (const std::size_t index : sorted)
@@ -263,8 +323,8 @@ TEST(LogicalCompareTest, StrictWeakOrderingAgreeingWithReferenceOnCorpus)
             const std::wstring& left = corpus[sorted[first]];
             const std::wstring& right = corpus[sorted[second]];
             const int expected = orderOf(rank[first], rank[second]);
-            const int forward = compareLogical(left, right);
-            const int backward = compareLogical(right, left);
+            const int forward = compareLogicalPortable(left, right);
+            const int backward = compareLogicalPortable(right, left);
             if (forward != expected || backward != -expected)
                 ADD_FAILURE() << ++failures << ": " << left << " against " << right << " gives " << forward
                               << " and " << backward << ", ranks give " << expected;

@@ -1,6 +1,6 @@
-# Fails unless the library's dynamic symbol table holds its nine entry points, each once, and
-# otherwise only the run-time type information of the host interfaces.
-# Run as: cmake -DLIBRARY=<path> -P CheckExports.cmake
+# Fails unless the library's dynamic symbol table (a DLL's export table) holds its nine entry
+# points, each once, and otherwise only the run-time type information of the host interfaces.
+# Run as: cmake -DLIBRARY=<path> [-DOBJDUMP=<objdump of a DLL's toolchain>] -P CheckExports.cmake
 set(entryPoints
     createViewCreator createGroupingModelFactory createGroupMaker createProjectExplorerFactory
     createProjectExplorerStateMonitor createProjectExplorerGuiEventHandlerFactory
@@ -8,10 +8,41 @@ set(entryPoints
 set(missingEntryPoints ${entryPoints})
 set(exportedEntryPoints)
 
-execute_process(COMMAND nm -D --defined-only --demangle ${LIBRARY}
-                OUTPUT_VARIABLE symbols RESULT_VARIABLE status)
-if(NOT status EQUAL 0)
-    message(FATAL_ERROR "nm failed on ${LIBRARY}")
+if(OBJDUMP)
+    # A DLL: the names of its export table, "[ordinal] name" each, demangled by the toolchain's
+    # c++filt beside objdump.
+    string(REGEX REPLACE "objdump(\\.exe)?$" "c++filt" CXXFILT "${OBJDUMP}")
+    execute_process(COMMAND ${OBJDUMP} -p ${LIBRARY} OUTPUT_VARIABLE dump RESULT_VARIABLE status)
+    if(NOT status EQUAL 0)
+        message(FATAL_ERROR "objdump failed on ${LIBRARY}")
+    endif()
+    # The names are listed under "[Ordinal/Name Pointer] Table" up to the next empty line; the
+    # address table before them has lines of the same shape.
+    string(FIND "${dump}" "[Ordinal/Name Pointer] Table\n" namesStart)
+    if(namesStart EQUAL -1)
+        message(FATAL_ERROR "${LIBRARY} exports nothing")
+    endif()
+    string(SUBSTRING "${dump}" ${namesStart} -1 names)
+    string(FIND "${names}" "\n\n" namesEnd)
+    string(SUBSTRING "${names}" 0 ${namesEnd} names)
+    string(REGEX MATCHALL "\n[ \t]*\\[ *[0-9]+\\] [^\n]+" entries "${names}")
+    set(mangled)
+    foreach(entry IN LISTS entries)
+        string(REGEX REPLACE "^\n[ \t]*\\[ *[0-9]+\\] " "" name "${entry}")
+        string(APPEND mangled "${name}\n")
+    endforeach()
+    file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/exports-mangled.txt "${mangled}")
+    execute_process(COMMAND ${CXXFILT} INPUT_FILE ${CMAKE_CURRENT_BINARY_DIR}/exports-mangled.txt
+                    OUTPUT_VARIABLE symbols RESULT_VARIABLE status)
+    if(NOT status EQUAL 0)
+        message(FATAL_ERROR "c++filt failed")
+    endif()
+else()
+    execute_process(COMMAND nm -D --defined-only --demangle ${LIBRARY}
+                    OUTPUT_VARIABLE symbols RESULT_VARIABLE status)
+    if(NOT status EQUAL 0)
+        message(FATAL_ERROR "nm failed on ${LIBRARY}")
+    endif()
 endif()
 
 string(REPLACE "\n" ";" lines "${symbols}")
