@@ -2,6 +2,7 @@
 #include "ViolationSite.h"
 
 #include "ProjectExplorerLib/ProjectExplorerCopierToClipboard.h"
+#include "ProjectExplorerLib/ProjectExplorerEntityController.h"
 
 #include "AecModel/EditingService.h"
 
@@ -264,11 +265,21 @@ TEST_F(EntityControllerTest, PasteWithoutDataAndATopicForWhatHasNoneAreRefused)
 
 TEST_F(EntityControllerTest, ContractBreachesNameTheirSites)
 {
+    // A type without a handler fails where it is met, so that the site tells which operation met it.
     aec::EntityId id;
     const std::string createSite =
         violationSite<common::ENotImplemented>([&] { controller->createEntity(types::doorStyle(), id); });
-    EXPECT_EQ(siteFile(createSite), controllerFile);
+    const std::string renameSite =
+        violationSite<common::ENotImplemented>([&] { controller->renameEntity(linkedModel, L"Survey"); });
+    auto& concrete = dynamic_cast<CProjectExplorerEntityController&>(*controller);
+    const std::string removeSite = violationSite<common::ENotImplemented>([&] { concrete.remove({image}); });
+    for (const std::string& site : {createSite, renameSite, removeSite})
+        EXPECT_EQ(siteFile(site), controllerFile);
+    EXPECT_NE(createSite, renameSite);
+    EXPECT_NE(renameSite, removeSite);
+    EXPECT_NE(createSite, removeSite);
     EXPECT_TRUE(undoNames().empty());
+    EXPECT_TRUE(exists(image));
 
     const std::string swappedSite = violationSite<common::EPreconditionViolation>(
         [this]
