@@ -135,6 +135,15 @@ TEST(FractionalIndexTest, BisectionBytesFollowFromTheDraws)
     expectBisection("with nothing to draw below the lowest differing bit, the lower key's tail is raised",
                     {0x10, 0x05, 0x07}, {0x11}, {0xFF, 0x04, 0x08, 0x31, 0x32, 0x33, 0x34, 0x35, 0x36},
                     {0x10, 0x05, 0x0F, 0x31, 0x32, 0x33, 0x34, 0x35, 0x36});
+    // The upper key runs on for more than a scan block past the lower one's end, and its first
+    // non-zero byte there comes early in the block.
+    Bytes longUpper{0x10, 0, 0, 0, 0x40};
+    longUpper.resize(305, 0x01);
+    Bytes longMiddle{0x10, 0, 0, 0, 0x25, 1, 2, 3, 4, 5, 6};
+    longMiddle.resize(305, 0);
+    longMiddle.push_back(7);
+    expectBisection("the first difference past the lower key's end is the first non-zero byte of the upper",
+                    {0x10}, longUpper, {0x25, 1, 2, 3, 4, 5, 6, 7}, longMiddle);
     expectBisection("bytes both bounds share after the first difference are kept", {0x10, 0x00, 0x44},
                     {0x30, 0x00, 0x44, 0x02}, {0x0C, 0x5E, 0x71, 0x72, 0x73, 0x74, 0x75},
                     {0x1C, 0x00, 0x44, 0x5E, 0x71, 0x72, 0x73, 0x74, 0x75});

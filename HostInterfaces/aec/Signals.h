@@ -3,9 +3,7 @@
 #include "aec/Changeset.h"
 #include "aec/EntityId.h"
 
-#include <boost/signals2/dummy_mutex.hpp>
 #include <boost/signals2/signal.hpp>
-#include <boost/signals2/signal_type.hpp>
 
 namespace aec
 {
@@ -13,18 +11,13 @@ namespace aec
 // The change signals of the explorer model. Listeners connect through the accessors of the
 // interfaces and keep scoped connections.
 //
-// The model lives on the user-interface thread alone, so its signals lock nothing: a tree of
-// thousands of subgroups holds two signals each, and a locking signal allocates a mutex of its own
-// and takes it several times in every emission.
-template <class Signature>
-using UnlockedSignal =
-    typename boost::signals2::signal_type<Signature,
-                                          boost::signals2::keywords::mutex_type<boost::signals2::dummy_mutex>>::type;
-
-using VoidSignal = UnlockedSignal<void()>;
+// Plain Boost.Signals2 signals with their default combiner, group ordering and mutex: the very
+// types that a host compiles its listeners against. Everything runs on the user-interface thread;
+// the lock that a signal takes around its connection list is the signal library's own affair.
+using VoidSignal = boost::signals2::signal<void()>;
 using EntityChangeset = CChangeset<EntityId, EntityIdSet>;
-using EntitiesChangedSignal = UnlockedSignal<void(const EntityChangeset&)>;
+using EntitiesChangedSignal = boost::signals2::signal<void(const EntityChangeset&)>;
 // (added, removed): the entities that became selected, then those that stopped being selected.
-using SelectionChangedSignal = UnlockedSignal<void(const EntityIdSet&, const EntityIdSet&)>;
+using SelectionChangedSignal = boost::signals2::signal<void(const EntityIdSet&, const EntityIdSet&)>;
 
 } // namespace aec

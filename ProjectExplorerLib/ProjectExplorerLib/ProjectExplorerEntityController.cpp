@@ -110,7 +110,10 @@ void CProjectExplorerEntityController::createEntity(const aec::EntityTypeId& typ
                                 fmt::format("Create entity with type {}", type.toString()));
     if (id.isNull())
         id = aec::EntityId(common::UUID::generate());
-    handlerOf(type).create(id);
+    aec::IEntityTypeHandler* const handler = handlerFor(type);
+    if (handler == nullptr)
+        COMMON_NOT_IMPLEMENTED();
+    handler->create(id);
     operation.commit();
 }
 
@@ -133,7 +136,10 @@ void CProjectExplorerEntityController::renameEntity(const aec::EntityId& id, con
 
     CProjectOperation operation(project, operationGuardSource_,
                                 fmt::format("Rename entity with type {}", type.toString()));
-    handlerOf(type).rename(id, newName);
+    aec::IEntityTypeHandler* const handler = handlerFor(type);
+    if (handler == nullptr)
+        COMMON_NOT_IMPLEMENTED();
+    handler->rename(id, newName);
     operation.commit();
 }
 
@@ -259,7 +265,12 @@ void CProjectExplorerEntityController::remove(const aec::EntityIdList& entities)
     {
         CChangeNotificationBatchScope batch(project.getChangeNotificationBatch());
         for (const aec::EntityId& id : entities)
-            handlerOf(existingEntity(project, id).getType()).remove(id);
+        {
+            aec::IEntityTypeHandler* const handler = handlerFor(existingEntity(project, id).getType());
+            if (handler == nullptr)
+                COMMON_NOT_IMPLEMENTED();
+            handler->remove(id);
+        }
         batch.close();
     }
     operation.commit();
@@ -282,12 +293,10 @@ aec::IEntity& CProjectExplorerEntityController::existingEntity(aec::IProject& pr
     return *entity;
 }
 
-aec::IEntityTypeHandler& CProjectExplorerEntityController::handlerOf(const aec::EntityTypeId& type) const
+aec::IEntityTypeHandler* CProjectExplorerEntityController::handlerFor(const aec::EntityTypeId& type) const
 {
     const std::optional<std::size_t> index = handledTypeIndex(type);
-    if (!index)
-        COMMON_NOT_IMPLEMENTED();
-    return typeHandlers_[*index].get();
+    return index ? &typeHandlers_[*index].get() : nullptr;
 }
 
 aec::EntityIdList CProjectExplorerEntityController::removableEntities(const aec::EntityIdList& entities) const
@@ -340,15 +349,9 @@ void CProjectExplorerEntityController::renameDirectly(aec::IProject& project, co
     }
     // The edit ends also when ending it fails, and then takes its change back.
     editing.endEdit(true);
-    try
-    {
-        project.setChangeOrigin(__FILE__, originLine);
-    }
-    catch (...)
-    {
-        // The rename is made and recorded by now. Naming its origin once more is the project's
-        // bookkeeping; its failure must not report a finished rename as failed.
-    }
+    // The project's failure here is the host's to report, like any other of its failures, even
+    // though the rename itself is made by now.
+    project.setChangeOrigin(__FILE__, originLine);
 }
 
 } // namespace project_explorer

@@ -101,7 +101,9 @@ private:
     aec::IProject& currentProject() const;
     aec::IDocumentGui* currentDocumentGui() const;
     static aec::IEntity& existingEntity(aec::IProject& project, const aec::EntityId& id);
-    aec::IEntityTypeHandler& handlerOf(const aec::EntityTypeId& type) const;
+    // The handler of a handled type, or null. Each caller reports a type without a handler at its
+    // own site, so that a failure tells which operation met it.
+    aec::IEntityTypeHandler* handlerFor(const aec::EntityTypeId& type) const;
     // Those of the entities that exist and are of a handled type.
     aec::EntityIdList removableEntities(const aec::EntityIdList& entities) const;
     aec::EntityIdList copyableEntities(const aec::EntityIdList& entities) const;

@@ -129,8 +129,12 @@ CProjectExplorerGroup::SubgroupsByName CProjectExplorerGroup::takeSubgroupsByNam
 
 void CProjectExplorerGroup::appendSubgroupsFromMaker(SubgroupsByName& previous, bool& madeNew)
 {
-    std::vector<aec::SubgroupDescriptor> descriptors = groupMaker_.makeSubgroups(
-        entityProvider_.getEntities(id_), groupingModel_->getGroupingKey(), groupingModel_->getSortOrder());
+    // Read one after the other: the host's services may fail, and which of them is asked first
+    // must not depend on the compiler's order of evaluating arguments.
+    const int sortOrder = groupingModel_->getSortOrder();
+    const aec::PropertyAssignmentKey key = groupingModel_->getGroupingKey();
+    const aec::EntityIdList entities = entityProvider_.getEntities(id_);
+    std::vector<aec::SubgroupDescriptor> descriptors = groupMaker_.makeSubgroups(entities, key, sortOrder);
 
     subgroups_.reserve(descriptors.size());
     for (aec::SubgroupDescriptor& descriptor : descriptors)

@@ -44,6 +44,17 @@ aec::EntityIdSet sortedSetOf(aec::EntityIdList& entities)
     return aec::EntityIdSet(entities.begin(), entities.end());
 }
 
+// The value the entity's subgroup is named by. An entity that the project cannot provide is the
+// host's to name: it reads as lacking the property, and the formatter's text for an absent value
+// names its subgroup, as the no-grouping subgroup keeps it too. The maker neither drops it nor
+// refuses it.
+aec::AttributeValue propertyValue(const aec::IProject& project, const aec::EntityId& id,
+                                  const aec::PropertyAssignmentKey& key)
+{
+    const aec::IEntity* const entity = project.findEntity(id);
+    return entity != nullptr ? entity->getPropertyValue(key) : aec::AttributeValue();
+}
+
 } // namespace
 
 CProjectExplorerGroupMaker::CProjectExplorerGroupMaker(const aec::IAttributeValueFormatter& formatter,
@@ -79,13 +90,7 @@ std::vector<aec::SubgroupDescriptor> CProjectExplorerGroupMaker::makeSubgroups(c
     std::vector<ExactBuckets::value_type*> firstOccurrence;
     for (const aec::EntityId& id : entityIds)
     {
-        // The provider listed the identifiers from this project a moment ago; an entity that is
-        // gone by now has no value to be grouped by and simply does not appear.
-        const aec::IEntity* entity = project.findEntity(id);
-        if (entity == nullptr)
-            continue;
-
-        auto [bucket, made] = buckets.try_emplace(formatter_.format(entity->getPropertyValue(key)));
+        auto [bucket, made] = buckets.try_emplace(formatter_.format(propertyValue(project, id, key)));
         if (made)
             firstOccurrence.push_back(&*bucket);
         bucket->second.push_back(id);

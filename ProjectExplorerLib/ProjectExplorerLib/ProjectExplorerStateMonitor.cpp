@@ -9,6 +9,7 @@
 #include "Common/NameBasedUuid.h"
 
 #include <stdexcept>
+#include <utility>
 
 namespace project_explorer
 {
@@ -21,7 +22,7 @@ CProjectExplorerStateMonitor::CProjectExplorerStateMonitor(const aec::IProjectEx
 
 CProjectExplorerStateMonitor::~CProjectExplorerStateMonitor()
 {
-    subgroupConnections_.clear();
+    subgroupWatches_.clear();
     connections_.clear();
 }
 
@@ -61,35 +62,52 @@ void CProjectExplorerStateMonitor::addGroupState(const aec::IProjectExplorerGrou
 }
 
 void CProjectExplorerStateMonitor::addSubgroupState(const aec::IProjectExplorerGroup& group,
-                                                    const aec::IProjectExplorerSubgroup& subgroup)
+                                                    const aec::IProjectExplorerSubgroup& subgroup,
+                                                    SubgroupWatches& previous)
 {
     const common::UUID groupId = group.getId();
     const auto groupState = groupStates_.find(groupId);
     if (groupState == groupStates_.end())
         throw std::out_of_range("invalid map<K, T> key");
 
-    const common::UUID subgroupId = common::makeNameBasedUuid(groupId, subgroup.getName());
+    // A watch whose connection reads as disconnected belongs to a subgroup that died; its address
+    // may since belong to a new subgroup, which is then named and connected as new.
+    auto kept = previous.extract(&subgroup);
+    const bool keptAlive = kept && kept.mapped().expandedChanged.connected();
+    const common::UUID subgroupId =
+        keptAlive ? kept.mapped().id : common::makeNameBasedUuid(groupId, subgroup.getName());
     std::map<common::UUID, bool>& subgroupStates = groupState->second.subgroupExpanded;
     COMMON_INVARIANT(!subgroupStates.contains(subgroupId));
     subgroupStates.emplace(subgroupId, subgroup.isExpanded());
 
-    Connections& connections = subgroupConnections_[groupId];
-    connections.emplace_back(subgroup.expandedChangedSignal().connect([this, &subgroup, groupId, subgroupId] {
-        groupStates_.at(groupId).subgroupExpanded.at(subgroupId) = subgroup.isExpanded();
-        stateChanged_();
-    }));
+    SubgroupWatches& watches = subgroupWatches_[groupId];
+    if (keptAlive)
+    {
+        watches.insert(std::move(kept));
+        return;
+    }
+    SubgroupWatch& watch = watches[&subgroup];
+    watch.id = subgroupId;
+    watch.expandedChanged = subgroup.expandedChangedSignal().connect(
+        [this, &subgroup, groupId, subgroupId]
+        {
+            groupStates_.at(groupId).subgroupExpanded.at(subgroupId) = subgroup.isExpanded();
+            stateChanged_();
+        });
     // A change of a subgroup's entities is no part of the record; the connection only keeps the
     // subgroup's signals watched alike.
-    connections.emplace_back(subgroup.entitiesChangedSignal().connect([](const aec::EntityChangeset&) {}));
+    watch.entitiesChanged = subgroup.entitiesChangedSignal().connect([](const aec::EntityChangeset&) {});
 }
 
 void CProjectExplorerStateMonitor::refreshSubgroupStates(const aec::IProjectExplorerGroup& group)
 {
     const common::UUID groupId = group.getId();
     groupStates_.at(groupId).subgroupExpanded.clear();
-    subgroupConnections_[groupId].clear();
+    // What is left in `previous` at the end belongs to subgroups that are gone; it disconnects
+    // when `previous` dies.
+    SubgroupWatches previous = std::exchange(subgroupWatches_[groupId], {});
     for (const aec::IProjectExplorerSubgroup& subgroup : group.getSubgroups())
-        addSubgroupState(group, subgroup);
+        addSubgroupState(group, subgroup, previous);
 }
 
 void CProjectExplorerStateMonitor::recordGrouping(const aec::IProjectExplorerGroup& group)

@@ -2,6 +2,7 @@
 #include "ViolationSite.h"
 
 #include "ProjectExplorerLib/ProjectExplorerCopierToClipboard.h"
+#include "ProjectExplorerLib/ProjectExplorerEntityController.h"
 
 #include "AecModel/EditingService.h"
 
@@ -15,6 +16,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <utility>
 
 namespace project_explorer::test
 {
@@ -28,6 +30,32 @@ constexpr const char* controllerFile =
 const std::string removeStep = "Remove entities from project explorer";
 
 using EntityControllerTest = EntityOperationsFixture;
+
+// A listener of the project that cannot follow the next change it is told of, as a host view
+// whose services fail.
+class CFailingListener final : public aec::IObjectEvents
+{
+public:
+    explicit CFailingListener(aec::model::CProject& project) : project_(project)
+    {
+        project_.getObjectEvents().addObserver(*this);
+    }
+    ~CFailingListener() override { project_.getObjectEvents().removeObserver(*this); }
+    CFailingListener(const CFailingListener&) = delete;
+    CFailingListener& operator=(const CFailingListener&) = delete;
+
+    void onProjectOpened() override {}
+    void onObjectsChanged(std::uint32_t, std::uint32_t, const aec::EntityIdSet&, const aec::EntityIdSet&) override
+    {
+        if (std::exchange(failNext_, false))
+            throw common::EException("the listener cannot follow");
+    }
+    void onProjectClosing() override {}
+
+private:
+    aec::model::CProject& project_;
+    bool failNext_ = true;
+};
 
 TEST_F(EntityControllerTest, CreateWritesAGeneratedIdentifierBackAndKeepsAGivenOne)
 {
@@ -258,17 +286,34 @@ TEST_F(EntityControllerTest, PasteWithoutDataAndATopicForWhatHasNoneAreRefused)
     host.getClipboard().clear();
     EXPECT_THROW(controller->paste(), common::EException);
     EXPECT_THROW(controller->changeTopic({sheet1, linkedModel}, topicB), common::EException);
+    // The host model prepares the move and refuses a topic it does not hold, with its own message.
+    EXPECT_THROW(controller->changeTopic({sheet1}, aec::TopicId(common::UUID::generate())), common::EException);
+    // A listener that fails when the batch of the move closes fails the move.
+    {
+        const CFailingListener listener(project);
+        EXPECT_THROW(controller->changeTopic({sheet1}, topicB), common::EException);
+    }
     EXPECT_EQ(project.canonicalDump(), dump);
     EXPECT_EQ(undoNames(), history);
 }
 
 TEST_F(EntityControllerTest, ContractBreachesNameTheirSites)
 {
+    // A type without a handler fails where it is met, so that the site tells which operation met it.
     aec::EntityId id;
     const std::string createSite =
         violationSite<common::ENotImplemented>([&] { controller->createEntity(types::doorStyle(), id); });
-    EXPECT_EQ(siteFile(createSite), controllerFile);
+    const std::string renameSite =
+        violationSite<common::ENotImplemented>([&] { controller->renameEntity(linkedModel, L"Survey"); });
+    auto& concrete = dynamic_cast<CProjectExplorerEntityController&>(*controller);
+    const std::string removeSite = violationSite<common::ENotImplemented>([&] { concrete.remove({image}); });
+    for (const std::string& site : {createSite, renameSite, removeSite})
+        EXPECT_EQ(siteFile(site), controllerFile);
+    EXPECT_NE(createSite, renameSite);
+    EXPECT_NE(renameSite, removeSite);
+    EXPECT_NE(createSite, removeSite);
     EXPECT_TRUE(undoNames().empty());
+    EXPECT_TRUE(exists(image));
 
     const std::string swappedSite = violationSite<common::EPreconditionViolation>(
         [this]

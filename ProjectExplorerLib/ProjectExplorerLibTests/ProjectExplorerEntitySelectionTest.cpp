@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <type_traits>
 
 namespace project_explorer::test
 {
@@ -15,6 +16,13 @@ namespace
 {
 
 using aec::EntityIdSet;
+
+// Hosts compile their listeners against these types: plain signals, default mutex included.
+static_assert(std::is_same_v<aec::SelectionChangedSignal,
+                             boost::signals2::signal<void(const EntityIdSet&, const EntityIdSet&)>>);
+static_assert(std::is_same_v<aec::VoidSignal, boost::signals2::signal<void()>>);
+static_assert(
+    std::is_same_v<aec::EntitiesChangedSignal, boost::signals2::signal<void(const aec::EntityChangeset&)>>);
 
 aec::EntityId entity(std::uint8_t number)
 {

@@ -65,9 +65,13 @@ TEST_F(ProjectExplorerGroupMakerTest, EmptyInputReservedKeyAbsentValueAndVanishe
     EXPECT_EQ(all[0].name, L"");
     EXPECT_EQ(all[0].entities, (EntityIdSet{concrete, loose}));
 
-    // An entity gone from the project since it was listed has no value to be grouped by.
-    EXPECT_EQ(byTopic({loose, gone}), (std::vector<std::pair<std::wstring, EntityIdSet>>{
-                                          {formatter.format(std::monostate{}), {loose}}}));
+    // An entity gone from the project since it was listed is kept, with and without grouping;
+    // grouped, it reads as lacking the property.
+    EXPECT_EQ(byTopic({loose, gone, concrete}),
+              (std::vector<std::pair<std::wstring, EntityIdSet>>{
+                  {formatter.format(std::monostate{}), {loose, gone}}, {L"Concrete", {concrete}}}));
+    EXPECT_EQ(groupMaker.makeSubgroups({gone}, aec::PropertyAssignmentKey::noGrouping(), 1).at(0).entities,
+              EntityIdSet{gone});
 }
 
 } // namespace

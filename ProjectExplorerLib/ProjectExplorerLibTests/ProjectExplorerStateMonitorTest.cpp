@@ -87,17 +87,23 @@ TEST_F(ProjectExplorerStateMonitorTest, RebuildKeepsOneEntryPerSubgroupAndWatche
     EXPECT_EQ(stateChanged->count(), 1);
     EXPECT_EQ(doorState().subgroupExpanded, (SubgroupStates{{subgroupId(L"Fire"), false}, {subgroupId(L"Smoke"), false}}));
 
+    // The kept subgroup and the new one are both watched, each once, under their own names.
     named(doors().getSubgroups(), L"Fire").setExpanded(true);
     EXPECT_EQ(stateChanged->count(), 2);
+    named(doors().getSubgroups(), L"Smoke").setExpanded(true);
+    EXPECT_EQ(stateChanged->count(), 3);
+    EXPECT_EQ(doorState().subgroupExpanded,
+              (SubgroupStates{{subgroupId(L"Fire"), true}, {subgroupId(L"Smoke"), true}}));
+    named(doors().getSubgroups(), L"Smoke").setExpanded(false);
 
     // Entities moving between kept subgroups are no part of the record; a new sort order is.
     project.setEntityTopic(soundDoor, fire);
     project.addEntity(EntityCollection::DoorStyles, L"D31", smoke);
     doors().rebuild();
-    EXPECT_EQ(stateChanged->count(), 2);
+    EXPECT_EQ(stateChanged->count(), 4);
     doors().getGroupingModel().setSortOrder(aec::IProjectExplorerGroupingModel::descending);
     EXPECT_EQ(doorState().sortOrder, 2u);
-    EXPECT_EQ(stateChanged->count(), 3);
+    EXPECT_EQ(stateChanged->count(), 5);
 }
 
 TEST_F(ProjectExplorerStateMonitorTest, RecordingAGroupOrASubgroupTwiceBreaksTheInvariant)

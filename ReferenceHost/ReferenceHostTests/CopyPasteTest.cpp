@@ -199,6 +199,10 @@ TEST_F(CopyPasteTest, PasteIntoTheSameProjectMakesNumberedCopiesInTheirTopics)
     source->getUndoHistory().undo();
     EXPECT_EQ(source->findEntity(second[0]), nullptr);
     EXPECT_NE(source->findEntity(first[0]), nullptr);
+
+    // A copy of a numbered copy is numbered after the original, whatever digits its number holds.
+    const EntityId tenth = source->addEntity(EntityCollection::Sheets, L"Sheet A-101 (10)");
+    EXPECT_EQ(source->findEntity(paste(*source, copy({tenth})).at(0))->getName(), L"Sheet A-101 (3)");
 }
 
 TEST_F(CopyPasteTest, PasteIntoAnotherProjectFindsTopicsByNameOrDropsThem)
