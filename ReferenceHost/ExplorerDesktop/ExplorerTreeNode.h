@@ -67,7 +67,9 @@ public:
     void insertChildren(int row, std::vector<std::unique_ptr<CExplorerTreeNode>> children);
     // Takes the children `first` to `last` (inclusive) away.
     void removeChildren(int first, int last);
-    void moveChild(int from, int to);
+    // Puts the children in a new order: the child at row i afterwards is the one that was at row
+    // `oldRows[i]`, which must name every row once.
+    void permuteChildren(const std::vector<int>& oldRows);
     // Hands every child over, leaving the node without children.
     std::vector<std::unique_ptr<CExplorerTreeNode>> releaseChildren();
 
