@@ -11,6 +11,7 @@
 #include "aec/ProjectExplorer.h"
 #include "aec/ProjectExplorerEntityController.h"
 #include "aec/ProjectExplorerGroup.h"
+#include "aec/ProjectExplorerGroupingModel.h"
 #include "aec/ProjectExplorerSubgroup.h"
 
 #include <QApplication>
@@ -252,13 +253,17 @@ void CExplorerItemModel::synchronize()
     synchronizing_ = true;
     try
     {
+        Q_EMIT aboutToSynchronize();
         mergeGroups();
     }
     catch (...)
     {
         // The rows are as the views were last told, but the merge may have stopped between
-        // inserting and indexing them: the index of entities follows what is shown.
+        // inserting and indexing them: the index of entities follows what is shown, and the next
+        // time every entity is compared again.
         indexEntities();
+        seenContentStamp_.reset();
+        seenGroupings_.clear();
         synchronizing_ = false;
         foldChanges_.clear();
         throw;
@@ -282,6 +287,7 @@ void CExplorerItemModel::mergeGroups()
         return;
     }
     const IProject& project = sessionManager.getCurrentProject();
+    const bool contentChanged = seenContentStamp_ != panel.getContentStamp();
     std::vector<const IProjectExplorerGroup*> groups;
     NodeList wanted;
     for (const IProjectExplorerGroup& group : std::as_const(panel.getExplorer()).getGroups())
@@ -293,8 +299,26 @@ void CExplorerItemModel::mergeGroups()
         QModelIndex(), *root_, std::move(wanted),
         [&groups, &project](int row, Node& inserted)
         { fillGroup(inserted, *groups[static_cast<std::size_t>(row)], project); },
-        [this, &groups, &project](const QModelIndex& index, Node& shown, Node& fresh)
-        { updateGroup(index, shown, fresh, *groups[static_cast<std::size_t>(index.row())], project); });
+        [this, &groups, &project, contentChanged](const QModelIndex& index, Node& shown, Node& fresh)
+        {
+            const IProjectExplorerGroup& group = *groups[static_cast<std::size_t>(index.row())];
+            const bool regrouped = groupingChanged(group);
+            updateGroup(index, shown, fresh, group, project, contentChanged || regrouped);
+        });
+    seenContentStamp_ = panel.getContentStamp();
+}
+
+bool CExplorerItemModel::groupingChanged(const IProjectExplorerGroup& group)
+{
+    const IProjectExplorerGroupingModel& grouping = group.getGroupingModel();
+    std::pair<std::optional<std::wstring>, int> now{grouping.getGroupingKeyText(), grouping.getSortOrder()};
+    const auto [seen, inserted] = seenGroupings_.try_emplace(group.getId().toWString(), now);
+    if (inserted)
+        return true;
+    if (seen->second == now)
+        return false;
+    seen->second = std::move(now);
+    return true;
 }
 
 void CExplorerItemModel::mergeChildren(const QModelIndex& parent, Node& shown, NodeList wanted,
@@ -409,7 +433,8 @@ void CExplorerItemModel::insertMissing(const QModelIndex& parent, Node& shown, N
 }
 
 void CExplorerItemModel::updateGroup(const QModelIndex& index, Node& shown, Node& wanted,
-                                     const IProjectExplorerGroup& group, const IProject& project)
+                                     const IProjectExplorerGroup& group, const IProject& project,
+                                     bool checkEntities)
 {
     updateDisplay(index, shown, wanted);
     const bool renamable = hasRenamableEntities(group);
@@ -419,7 +444,7 @@ void CExplorerItemModel::updateGroup(const QModelIndex& index, Node& shown, Node
     {
         if (!shownFlat && shown.getChildCount() > 0)
             replaceChildren(index, shown, {});
-        updateEntities(index, shown, flatSubgroup(group), project, renamable);
+        updateEntities(index, shown, flatSubgroup(group), project, renamable, checkEntities);
         return;
     }
     if (shownFlat)
@@ -440,17 +465,24 @@ void CExplorerItemModel::updateGroup(const QModelIndex& index, Node& shown, Node
         index, shown, std::move(wantedSubgroups),
         [&subgroupAt, &project, renamable](int row, Node& inserted)
         { inserted.insertChildren(0, readEntities(subgroupAt(row), project, renamable)); },
-        [this, &subgroupAt, &project, renamable](const QModelIndex& subgroupIndex, Node& kept, Node& fresh)
+        [this, &subgroupAt, &project, renamable, checkEntities](const QModelIndex& subgroupIndex, Node& kept,
+                                                                Node& fresh)
         {
             updateDisplay(subgroupIndex, kept, fresh);
-            updateEntities(subgroupIndex, kept, subgroupAt(subgroupIndex.row()), project, renamable);
+            updateEntities(subgroupIndex, kept, subgroupAt(subgroupIndex.row()), project, renamable,
+                           checkEntities);
         });
 }
 
 void CExplorerItemModel::updateEntities(const QModelIndex& index, Node& container,
                                         const IProjectExplorerSubgroup& subgroup, const IProject& project,
-                                        bool renamable)
+                                        bool renamable, bool checkEntities)
 {
+    // Without a change of the project or of the grouping, the rows of a subgroup that shows as
+    // many entities as it counts are its entities under their names: a click costs nothing here.
+    if (!checkEntities &&
+        container.getDisplay().entityCount == static_cast<std::size_t>(container.getChildCount()))
+        return;
     if (showsSameEntities(container, subgroup, project) &&
         (container.getChildCount() == 0 || container.getChild(0).getDisplay().renamable == renamable))
         return;

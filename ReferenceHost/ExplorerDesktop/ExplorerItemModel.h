@@ -6,9 +6,11 @@
 
 #include <QAbstractItemModel>
 #include <boost/signals2/connection.hpp>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 #include <unordered_map>
 #include <vector>
 
@@ -91,6 +93,9 @@ public:
 Q_SIGNALS:
     // A group or subgroup was folded or unfolded in the explorer, or came already unfolded.
     void expandedChanged(const QModelIndex& index, bool expanded);
+    // The model is about to follow the explorer: rows may go. A selection model that drops the
+    // rows the explorer no longer selects now spares the views a new selection per removed run.
+    void aboutToSynchronize();
     // The model shows the explorer as it is now.
     void synchronized();
 
@@ -111,9 +116,11 @@ private:
     void reorder(const QModelIndex& parent, Node& shown, const NodeList& wanted);
     void insertMissing(const QModelIndex& parent, Node& shown, NodeList& wanted, const FillNew& fillNew);
     void updateGroup(const QModelIndex& index, Node& shown, Node& wanted, const IProjectExplorerGroup& group,
-                     const IProject& project);
+                     const IProject& project, bool checkEntities);
     void updateEntities(const QModelIndex& index, Node& container, const IProjectExplorerSubgroup& subgroup,
-                        const IProject& project, bool renamable);
+                        const IProject& project, bool renamable, bool checkEntities);
+    // Whether the group's grouping key or sort order changed since the last look.
+    bool groupingChanged(const IProjectExplorerGroup& group);
     bool showsSameEntities(const Node& container, const IProjectExplorerSubgroup& subgroup,
                            const IProject& project) const;
     void replaceChildren(const QModelIndex& index, Node& shown, NodeList children);
@@ -128,6 +135,10 @@ private:
     std::unique_ptr<Node> root_;
     std::unordered_map<EntityId, const Node*> entities_;
     std::vector<const Node*> foldChanges_;
+    // What the entities were last compared against: the panel's content stamp and each group's
+    // grouping. Entities are compared again only when one of them changed.
+    std::optional<std::uint64_t> seenContentStamp_;
+    std::unordered_map<std::wstring, std::pair<std::optional<std::wstring>, int>> seenGroupings_;
     bool synchronizing_ = false;
     boost::signals2::scoped_connection treeChanged_;
 };

@@ -28,6 +28,10 @@ CExplorerSelectionModel::CExplorerSelectionModel(CExplorerItemModel& model, host
                                                  CCommandRunner& runner, QObject* parent)
     : QItemSelectionModel(&model, parent), model_(model), panel_(panel), runner_(runner)
 {
+    // Before the model follows the explorer too: rows that go unselected take no selection with
+    // them, and a view repaints its selection once rather than after every removed run.
+    connect(&model_, &CExplorerItemModel::aboutToSynchronize, this,
+            &CExplorerSelectionModel::showExplorerSelection);
     connect(&model_, &CExplorerItemModel::synchronized, this,
             &CExplorerSelectionModel::showExplorerSelection);
     connect(this, &QItemSelectionModel::selectionChanged, this,

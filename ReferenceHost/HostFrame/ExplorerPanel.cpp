@@ -42,6 +42,7 @@ void CExplorerPanel::attachExplorer(IProjectExplorer& explorer)
 {
     detachExplorer();
     explorer_ = &explorer;
+    ++contentStamp_;
     connectToExplorer();
     treeChanged_();
 }
@@ -60,6 +61,7 @@ void CExplorerPanel::detachExplorer()
     explorerConnections_.clear();
     eventHandler_.reset();
     explorer_ = nullptr;
+    ++contentStamp_;
     treeChanged_();
 }
 
@@ -78,6 +80,7 @@ void CExplorerPanel::onObjectsChanged(std::uint32_t code, std::uint32_t value, c
 {
     if (code != objectEventEntitiesChanged || explorer_ == nullptr)
         return;
+    ++contentStamp_;
     changeTree(
         [this, value, &removed]
         {

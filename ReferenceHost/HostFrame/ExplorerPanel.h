@@ -6,6 +6,7 @@
 
 #include <boost/signals2/connection.hpp>
 #include <boost/signals2/signal.hpp>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -65,6 +66,11 @@ public:
     IProjectExplorer& getExplorer();
     const IProjectExplorer& getExplorer() const;
 
+    // Grows whenever the entities that the tree may show could have changed: an explorer attached
+    // or detached, objects changed. A host that draws the tree from its own copy reads the entities
+    // again only when it grew; folds, selections and grouping leave it as it is.
+    std::uint64_t getContentStamp() const noexcept { return contentStamp_; }
+
     TreeChangedSignal& treeChangedSignal() noexcept;
     RenameRequestedSignal& renameRequestedSignal() noexcept;
 
@@ -80,6 +86,7 @@ private:
     std::unique_ptr<IProjectExplorerGuiEventHandler> eventHandler_;
     std::vector<boost::signals2::scoped_connection> explorerConnections_;
     int changeDepth_ = 0;
+    std::uint64_t contentStamp_ = 0;
     TreeChangedSignal treeChanged_;
     RenameRequestedSignal renameRequested_;
 };
