@@ -266,8 +266,7 @@ void CExplorerItemModel::synchronize()
         // inserting and indexing them: the index of entities follows what is shown, and the next
         // time every entity is compared again.
         indexEntities();
-        seenContentStamp_.reset();
-        seenGroupings_.clear();
+        seenGroups_.clear();
         synchronizing_ = false;
         foldChanges_.clear();
         throw;
@@ -291,7 +290,6 @@ void CExplorerItemModel::mergeGroups()
         return;
     }
     const IProject& project = sessionManager.getCurrentProject();
-    const bool contentChanged = seenContentStamp_ != panel.getContentStamp();
     std::vector<const IProjectExplorerGroup*> groups;
     NodeList wanted;
     for (const IProjectExplorerGroup& group : std::as_const(panel.getExplorer()).getGroups())
@@ -303,20 +301,20 @@ void CExplorerItemModel::mergeGroups()
         QModelIndex(), *root_, std::move(wanted),
         [&groups, &project](int row, Node& inserted)
         { fillGroup(inserted, *groups[static_cast<std::size_t>(row)], project); },
-        [this, &groups, &project, contentChanged](const QModelIndex& index, Node& shown, Node& fresh)
+        [this, &groups, &project, &panel](const QModelIndex& index, Node& shown, Node& fresh)
         {
             const IProjectExplorerGroup& group = *groups[static_cast<std::size_t>(index.row())];
-            const bool regrouped = groupingChanged(group);
-            updateGroup(index, shown, fresh, group, project, contentChanged || regrouped);
+            updateGroup(index, shown, fresh, group, project,
+                        entitiesMayHaveChanged(group, panel.getContentStamp(group)));
         });
-    seenContentStamp_ = panel.getContentStamp();
 }
 
-bool CExplorerItemModel::groupingChanged(const IProjectExplorerGroup& group)
+bool CExplorerItemModel::entitiesMayHaveChanged(const IProjectExplorerGroup& group,
+                                                std::uint64_t contentStamp)
 {
     const IProjectExplorerGroupingModel& grouping = group.getGroupingModel();
-    std::pair<std::optional<std::wstring>, int> now{grouping.getGroupingKeyText(), grouping.getSortOrder()};
-    const auto [seen, inserted] = seenGroupings_.try_emplace(group.getId().toWString(), now);
+    SeenGroup now{contentStamp, grouping.getGroupingKeyText(), grouping.getSortOrder()};
+    const auto [seen, inserted] = seenGroups_.try_emplace(group.getId().toWString(), now);
     if (inserted)
         return true;
     if (seen->second == now)

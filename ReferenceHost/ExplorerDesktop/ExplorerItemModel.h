@@ -119,8 +119,9 @@ private:
                      const IProject& project, bool checkEntities);
     void updateEntities(const QModelIndex& index, Node& container, const IProjectExplorerSubgroup& subgroup,
                         const IProject& project, bool renamable, bool checkEntities);
-    // Whether the group's grouping key or sort order changed since the last look.
-    bool groupingChanged(const IProjectExplorerGroup& group);
+    // Whether the group's entities may differ from its rows: the panel's content stamp of the
+    // group, its grouping key or its sort order changed since the last look.
+    bool entitiesMayHaveChanged(const IProjectExplorerGroup& group, std::uint64_t contentStamp);
     bool showsSameEntities(const Node& container, const IProjectExplorerSubgroup& subgroup,
                            const IProject& project) const;
     void replaceChildren(const QModelIndex& index, Node& shown, NodeList children);
@@ -135,10 +136,17 @@ private:
     std::unique_ptr<Node> root_;
     std::unordered_map<EntityId, const Node*> entities_;
     std::vector<const Node*> foldChanges_;
-    // What the entities were last compared against: the panel's content stamp and each group's
-    // grouping. Entities are compared again only when one of them changed.
-    std::optional<std::uint64_t> seenContentStamp_;
-    std::unordered_map<std::wstring, std::pair<std::optional<std::wstring>, int>> seenGroupings_;
+    // What each group's entities were last compared against: the panel's content stamp of the
+    // group, its grouping key and sort order. Entities are compared again only when one changed.
+    struct SeenGroup
+    {
+        std::uint64_t contentStamp = 0;
+        std::optional<std::wstring> groupingKey;
+        int sortOrder = 0;
+
+        friend bool operator==(const SeenGroup&, const SeenGroup&) = default;
+    };
+    std::unordered_map<std::wstring, SeenGroup> seenGroups_;
     bool synchronizing_ = false;
     boost::signals2::scoped_connection treeChanged_;
 };

@@ -80,13 +80,15 @@ void CExplorerPanel::onObjectsChanged(std::uint32_t code, std::uint32_t value, c
 {
     if (code != objectEventEntitiesChanged || explorer_ == nullptr)
         return;
-    ++contentStamp_;
     changeTree(
         [this, value, &removed]
         {
             for (IProjectExplorerGroup& group : explorer_->getGroups())
                 if (needsRebuild(group, value))
+                {
+                    ++groupContentStamps_[group.getId()];
                     group.rebuild();
+                }
 
             const EntityIdSet& selection = explorer_->getEntitySelection().getSelection();
             EntityIdSet gone;
@@ -132,6 +134,13 @@ const IProjectExplorer& CExplorerPanel::getExplorer() const
 {
     COMMON_PRECONDITION(explorer_ != nullptr);
     return *explorer_;
+}
+
+std::uint64_t CExplorerPanel::getContentStamp(const IProjectExplorerGroup& group) const
+{
+    // Both parts only grow, so their sum grows whenever either does.
+    const auto found = groupContentStamps_.find(group.getId());
+    return contentStamp_ + (found == groupContentStamps_.end() ? 0 : found->second);
 }
 
 CExplorerPanel::TreeChangedSignal& CExplorerPanel::treeChangedSignal() noexcept

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Common/UUID.h"
 #include "HostFrame/HostFrameApi.h"
 #include "aec/ProjectExplorerPanel.h"
 #include "aec/UserInputActor.h"
@@ -8,6 +9,7 @@
 #include <boost/signals2/signal.hpp>
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -66,10 +68,11 @@ public:
     IProjectExplorer& getExplorer();
     const IProjectExplorer& getExplorer() const;
 
-    // Grows whenever the entities that the tree may show could have changed: an explorer attached
-    // or detached, objects changed. A host that draws the tree from its own copy reads the entities
-    // again only when it grew; folds, selections and grouping leave it as it is.
-    std::uint64_t getContentStamp() const noexcept { return contentStamp_; }
+    // Grows whenever the entities that the group shows, or their names, could have changed: an
+    // explorer attached or detached, the group rebuilt after objects changed. A host that draws the
+    // tree from its own copy reads a group's entities again only when its stamp grew; folds,
+    // selections and grouping leave it as it is.
+    std::uint64_t getContentStamp(const IProjectExplorerGroup& group) const;
 
     TreeChangedSignal& treeChangedSignal() noexcept;
     RenameRequestedSignal& renameRequestedSignal() noexcept;
@@ -87,6 +90,7 @@ private:
     std::vector<boost::signals2::scoped_connection> explorerConnections_;
     int changeDepth_ = 0;
     std::uint64_t contentStamp_ = 0;
+    std::map<common::UUID, std::uint64_t> groupContentStamps_;
     TreeChangedSignal treeChanged_;
     RenameRequestedSignal renameRequested_;
 };
