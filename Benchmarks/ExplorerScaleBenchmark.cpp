@@ -15,6 +15,7 @@
 #include "HostServices/HostServices.h"
 #include "QtTreePeer.h"
 #include "ScaleSession.h"
+#include "TimeBetween.h"
 #include "aec/Commands.h"
 #include "aec/ObjectEvents.h"
 #include "aec/ProjectExplorer.h"
@@ -44,27 +45,6 @@ void countOperations(benchmark::State& state, std::int64_t perIteration)
 {
     state.SetItemsProcessed(state.iterations() * perIteration);
 }
-
-// Times `act` alone in each iteration; `prepare` before it and `restore` after it run with the
-// timer paused, so that every iteration starts from the same session. Pausing costs microseconds,
-// which the milliseconds of these operations make up for.
-template <class Prepare, class Act, class Restore>
-void timeBetween(benchmark::State& state, Prepare prepare, Act act, Restore restore)
-{
-    for (auto _ : state)
-    {
-        state.PauseTiming();
-        prepare();
-        state.ResumeTiming();
-        act();
-        state.PauseTiming();
-        restore();
-        state.ResumeTiming();
-    }
-    countOperations(state, 1);
-}
-
-void nothing() {}
 
 // The largest group's collection is one of the four whose entities the explorer deletes.
 aec::EntityCollection largestCollection(CScaleSession& scale)

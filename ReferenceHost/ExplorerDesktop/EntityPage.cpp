@@ -3,16 +3,16 @@
 #include "AecModel/AttributeValueFormatter.h"
 #include "AecModel/Project.h"
 #include "AecModel/TableImporter.h"
-#include "AecModel/WideText.h"
+#include "ExplorerDesktop/TableCellsModel.h"
 #include "aec/ProjectExplorerGroupInfo.h"
 
 #include <QFormLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QTableView>
 #include <QTableWidget>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <nlohmann/json.hpp>
 
 namespace aec::desktop
 {
@@ -51,8 +51,13 @@ QString topicOf(const model::CEntity& entity, const model::CProject& project)
 CEntityPage::CEntityPage(const EntityId& entity, QWidget* parent)
     : QWidget(parent), entity_(entity), name_(new QLabel(this)), kind_(new QLabel(this)),
       topic_(new QLabel(this)), identifier_(new QLabel(this)), properties_(makeTable(this)),
-      cells_(makeTable(this))
+      cells_(new CTableCellsModel(this)), cellsView_(new QTableView(this))
 {
+    cellsView_->setModel(cells_);
+    cellsView_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    // Rows of one height let the view place any row without asking the rows above it.
+    cellsView_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    cellsView_->horizontalHeader()->setStretchLastSection(true);
     identifier_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     properties_->setColumnCount(2);
     properties_->setHorizontalHeaderLabels({tr("Property"), tr("Value")});
@@ -66,7 +71,7 @@ CEntityPage::CEntityPage(const EntityId& entity, QWidget* parent)
     auto* const layout = new QVBoxLayout(this);
     layout->addLayout(facts);
     layout->addWidget(properties_, 1);
-    layout->addWidget(cells_, 3);
+    layout->addWidget(cellsView_, 3);
 }
 
 CEntityPage::~CEntityPage() = default;
@@ -95,53 +100,9 @@ bool CEntityPage::showFrom(const model::CProject& project)
         properties_->setItem(row, 0, new QTableWidgetItem(QString::fromStdString(name)));
         properties_->setItem(row, 1, new QTableWidgetItem(QString::fromStdWString(value)));
     }
-    showCells(entity->getProperty(cellsProperty));
-    showColumnNames(entity->getProperty(columnNamesProperty));
+    cellsView_->setVisible(cells_->showCells(entity->getProperty(cellsProperty)));
+    cells_->showColumnNames(entity->getProperty(columnNamesProperty));
     return true;
-}
-
-void CEntityPage::showCells(const std::optional<std::wstring>& cellsJson)
-{
-    cells_->clear();
-    cells_->setRowCount(0);
-    cells_->setColumnCount(0);
-    const nlohmann::json rows =
-        cellsJson ? nlohmann::json::parse(model::toUtf8(*cellsJson), nullptr, false) : nlohmann::json();
-    // Cells that do not read as a list of rows (edited by hand) are left out, not guessed at.
-    const bool isGrid = rows.is_array() && !rows.empty() &&
-                        std::ranges::all_of(rows, [](const nlohmann::json& row) { return row.is_array(); });
-    cells_->setVisible(isGrid);
-    if (!isGrid)
-        return;
-    std::size_t columns = 0;
-    for (const nlohmann::json& row : rows)
-        columns = std::max(columns, row.size());
-    cells_->setRowCount(static_cast<int>(rows.size()));
-    cells_->setColumnCount(static_cast<int>(columns));
-    for (std::size_t row = 0; row < rows.size(); ++row)
-        for (std::size_t column = 0; column < rows[row].size(); ++column)
-        {
-            const nlohmann::json& cell = rows[row][column];
-            const QString text = cell.is_string() ? QString::fromStdString(cell.get<std::string>())
-                                                  : QString::fromStdString(cell.dump());
-            cells_->setItem(static_cast<int>(row), static_cast<int>(column), new QTableWidgetItem(text));
-        }
-}
-
-void CEntityPage::showColumnNames(const std::optional<std::wstring>& columnNamesJson)
-{
-    const nlohmann::json names = columnNamesJson
-                                     ? nlohmann::json::parse(model::toUtf8(*columnNamesJson), nullptr, false)
-                                     : nlohmann::json();
-    if (cells_->isHidden() || !names.is_array())
-        return;
-    QStringList labels;
-    for (const nlohmann::json& name : names)
-        labels.append(name.is_string() ? QString::fromStdString(name.get<std::string>()) : QString());
-    // Columns beyond the names (cells edited by hand) keep their numbers.
-    for (int column = static_cast<int>(labels.size()); column < cells_->columnCount(); ++column)
-        labels.append(QString::number(column + 1));
-    cells_->setHorizontalHeaderLabels(labels);
 }
 
 } // namespace aec::desktop

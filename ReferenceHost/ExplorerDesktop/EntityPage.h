@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class QLabel;
+class QTableView;
 class QTableWidget;
 
 namespace aec::model
@@ -15,8 +16,10 @@ class CProject;
 namespace aec::desktop
 {
 
+class CTableCellsModel;
+
 // One opened entity: its name, kind, topic and identifier, its free-form properties, and for a
-// table the grid of its cells. It shows the entity as the project has it when asked to, so an
+// table the grid of its cells, read on demand. It shows the entity as the project has it when asked to, so an
 // opened sheet follows renames, topic changes and undo.
 class CEntityPage final : public QWidget
 {
@@ -33,13 +36,9 @@ public:
     // The entity's name as last shown.
     const QString& getTitle() const noexcept { return title_; }
     // The table's cells as last shown; no rows for an entity that is no table.
-    const QTableWidget& getCells() const noexcept { return *cells_; }
+    const CTableCellsModel& getCells() const noexcept { return *cells_; }
 
 private:
-    void showCells(const std::optional<std::wstring>& cellsJson);
-    // The header row's texts over the cells, when the imported file had one.
-    void showColumnNames(const std::optional<std::wstring>& columnNamesJson);
-
     EntityId entity_;
     QString title_;
     QLabel* name_;
@@ -47,7 +46,8 @@ private:
     QLabel* topic_;
     QLabel* identifier_;
     QTableWidget* properties_;
-    QTableWidget* cells_;
+    CTableCellsModel* cells_;
+    QTableView* cellsView_;
 };
 
 } // namespace aec::desktop

@@ -34,6 +34,7 @@ public:
 
 private:
     void showExplorerSelection();
+    QItemSelection rangesOf(const EntityIdSet& entities) const;
     void passSelectionToExplorer();
 
     CExplorerItemModel& model_;

@@ -70,17 +70,19 @@ void CExplorerTreeNode::removeChildren(int first, int last)
     renumberFrom(first);
 }
 
-void CExplorerTreeNode::moveChild(int from, int to)
+void CExplorerTreeNode::permuteChildren(const std::vector<int>& oldRows)
 {
-    COMMON_PRECONDITION(from >= 0 && from < getChildCount());
-    COMMON_PRECONDITION(to >= 0 && to < getChildCount());
-    const auto source = children_.begin() + from;
-    const auto target = children_.begin() + to;
-    if (from < to)
-        std::rotate(source, source + 1, target + 1);
-    else
-        std::rotate(target, source, source + 1);
-    renumberFrom(std::min(from, to));
+    COMMON_PRECONDITION(oldRows.size() == children_.size());
+    std::vector<std::unique_ptr<CExplorerTreeNode>> permuted;
+    permuted.reserve(children_.size());
+    for (const int row : oldRows)
+    {
+        COMMON_PRECONDITION(row >= 0 && row < getChildCount());
+        COMMON_PRECONDITION(children_[static_cast<std::size_t>(row)] != nullptr);
+        permuted.push_back(std::move(children_[static_cast<std::size_t>(row)]));
+    }
+    children_ = std::move(permuted);
+    renumberFrom(0);
 }
 
 std::vector<std::unique_ptr<CExplorerTreeNode>> CExplorerTreeNode::releaseChildren()

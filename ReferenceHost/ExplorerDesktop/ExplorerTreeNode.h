@@ -13,8 +13,8 @@ namespace aec::desktop
 
 // One row of the explorer's tree as the desktop shows it: a group, a subgroup or an entity, under
 // an invisible root. The explorer's own objects and ranges die with every rebuild, so the item
-// model keeps this copy of what it last showed and compares it with a fresh copy to tell its views
-// what changed. Nodes live on the heap and keep their address while they are shown, so that an
+// model keeps this copy of what it last showed and compares it with what the explorer shows now to
+// tell its views what changed. A group without grouping holds its entities itself. Nodes live on the heap and keep their address while they are shown, so that an
 // index's internal pointer stays valid as long as the row.
 //
 // A node is found among its siblings by its key: a group by its identifier, a subgroup by its
@@ -67,7 +67,9 @@ public:
     void insertChildren(int row, std::vector<std::unique_ptr<CExplorerTreeNode>> children);
     // Takes the children `first` to `last` (inclusive) away.
     void removeChildren(int first, int last);
-    void moveChild(int from, int to);
+    // Puts the children in a new order: the child at row i afterwards is the one that was at row
+    // `oldRows[i]`, which must name every row once.
+    void permuteChildren(const std::vector<int>& oldRows);
     // Hands every child over, leaving the node without children.
     std::vector<std::unique_ptr<CExplorerTreeNode>> releaseChildren();
 

@@ -1,15 +1,16 @@
 #include "ExplorerDesktop/ExplorerTreeReader.h"
 
+#include "Common/Check.h"
 #include "Common/LogicalCompare.h"
 #include "aec/Entity.h"
 #include "aec/Project.h"
-#include "aec/ProjectExplorer.h"
 #include "aec/ProjectExplorerGroup.h"
 #include "aec/ProjectExplorerGroupInfo.h"
+#include "aec/ProjectExplorerGroupingModel.h"
 #include "aec/ProjectExplorerSubgroup.h"
 
 #include <algorithm>
-#include <vector>
+#include <iterator>
 
 namespace aec::desktop
 {
@@ -19,21 +20,68 @@ namespace
 
 using Node = CExplorerTreeNode;
 
-bool isGroupable(const IProjectExplorerGroup& group)
-{
-    const auto& groups = projectExplorerGroups();
-    const auto info = std::ranges::find(groups, group.getId(), &ProjectExplorerGroupInfo::id);
-    return info != groups.end() && info->groupable;
-}
-
 struct NamedEntity
 {
     EntityId id;
     const std::wstring* name;
 };
 
-std::unique_ptr<Node> readSubgroup(const IProjectExplorerSubgroup& subgroup, const IProject& project,
-                                   bool renamable)
+std::size_t countOf(const IProjectExplorerSubgroup& subgroup)
+{
+    return static_cast<std::size_t>(std::ranges::distance(subgroup.getEntities()));
+}
+
+} // namespace
+
+bool showsFlat(const IProjectExplorerGroup& group)
+{
+    const auto subgroups = group.getSubgroups();
+    return !group.getGroupingModel().getGroupingKeyText().has_value() &&
+           std::ranges::distance(subgroups) == 1 && subgroups.begin()->getName().empty();
+}
+
+bool hasRenamableEntities(const IProjectExplorerGroup& group)
+{
+    const auto& groups = projectExplorerGroups();
+    const auto info = std::ranges::find(groups, group.getId(), &ProjectExplorerGroupInfo::id);
+    return info != groups.end() && info->groupable;
+}
+
+std::unique_ptr<CExplorerTreeNode> readGroupShell(const IProjectExplorerGroup& group)
+{
+    std::size_t entityCount = 0;
+    for (const IProjectExplorerSubgroup& subgroup : group.getSubgroups())
+        entityCount += countOf(subgroup);
+    return std::make_unique<Node>(Node::Kind::Group, group.getId().toWString(),
+                                  Node::Display{group.getName(), entityCount, group.isExpanded(), false});
+}
+
+std::unique_ptr<CExplorerTreeNode> readSubgroupShell(const IProjectExplorerSubgroup& subgroup)
+{
+    const std::wstring& name = subgroup.getName();
+    return std::make_unique<Node>(Node::Kind::Subgroup, name,
+                                  Node::Display{name, countOf(subgroup), subgroup.isExpanded(), false});
+}
+
+void fillGroup(CExplorerTreeNode& shell, const IProjectExplorerGroup& group, const IProject& project)
+{
+    COMMON_PRECONDITION(shell.getChildCount() == 0);
+    const bool renamable = hasRenamableEntities(group);
+    if (showsFlat(group))
+    {
+        shell.insertChildren(0, readEntities(flatSubgroup(group), project, renamable));
+        return;
+    }
+    for (const IProjectExplorerSubgroup& subgroup : group.getSubgroups())
+    {
+        std::unique_ptr<Node> subgroupNode = readSubgroupShell(subgroup);
+        subgroupNode->insertChildren(0, readEntities(subgroup, project, renamable));
+        shell.appendChild(std::move(subgroupNode));
+    }
+}
+
+std::vector<std::unique_ptr<CExplorerTreeNode>> readEntities(const IProjectExplorerSubgroup& subgroup,
+                                                             const IProject& project, bool renamable)
 {
     std::vector<NamedEntity> entities;
     for (const EntityId& id : subgroup.getEntities())
@@ -46,38 +94,18 @@ std::unique_ptr<Node> readSubgroup(const IProjectExplorerSubgroup& subgroup, con
                           const int order = common::compareLogical(*left.name, *right.name);
                           return order != 0 ? order < 0 : left.id < right.id;
                       });
-
-    const std::wstring& name = subgroup.getName();
-    auto node =
-        std::make_unique<Node>(Node::Kind::Subgroup, name,
-                               Node::Display{name.empty() ? std::wstring(ungroupedSubgroupName) : name,
-                                             entities.size(), subgroup.isExpanded(), false});
+    std::vector<std::unique_ptr<Node>> nodes;
+    nodes.reserve(entities.size());
     for (const NamedEntity& entity : entities)
-        node->appendChild(Node::makeEntity(entity.id, Node::Display{*entity.name, 0, false, renamable}));
-    return node;
+        nodes.push_back(Node::makeEntity(entity.id, Node::Display{*entity.name, 0, false, renamable}));
+    return nodes;
 }
 
-} // namespace
-
-std::unique_ptr<CExplorerTreeNode> readExplorerTree(const IProjectExplorer& explorer, const IProject& project)
+const IProjectExplorerSubgroup& flatSubgroup(const IProjectExplorerGroup& group)
 {
-    auto root = std::make_unique<Node>(Node::Kind::Root, std::wstring(), Node::Display{});
-    for (const IProjectExplorerGroup& group : explorer.getGroups())
-    {
-        const bool renamable = isGroupable(group);
-        auto groupNode =
-            std::make_unique<Node>(Node::Kind::Group, group.getId().toWString(), Node::Display{});
-        std::size_t entityCount = 0;
-        for (const IProjectExplorerSubgroup& subgroup : group.getSubgroups())
-        {
-            std::unique_ptr<Node> subgroupNode = readSubgroup(subgroup, project, renamable);
-            entityCount += subgroupNode->getDisplay().entityCount;
-            groupNode->appendChild(std::move(subgroupNode));
-        }
-        groupNode->setDisplay(Node::Display{group.getName(), entityCount, group.isExpanded(), false});
-        root->appendChild(std::move(groupNode));
-    }
-    return root;
+    const auto subgroups = group.getSubgroups();
+    COMMON_PRECONDITION(!subgroups.empty());
+    return *subgroups.begin();
 }
 
 } // namespace aec::desktop

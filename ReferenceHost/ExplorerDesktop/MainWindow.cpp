@@ -96,7 +96,14 @@ CMainWindow::CMainWindow(host::CExplorerSession& session, QWidget* parent)
             [this](const QModelIndex& index) { openEntity(tree_->toItemModel(index)); });
     connect(runner_, &CCommandRunner::failed, this, &CMainWindow::showFailure);
     connect(runner_, &CCommandRunner::finished, this, &CMainWindow::updateActions);
-    connect(selection_, &QItemSelectionModel::selectionChanged, this, &CMainWindow::updateActions);
+    // Rows that go while the model follows the explorer take their selection with them, one run at
+    // a time; the actions follow once, when the model has followed.
+    connect(selection_, &QItemSelectionModel::selectionChanged, this,
+            [this]
+            {
+                if (!model_->isSynchronizing())
+                    updateActions();
+            });
     connect(model_, &CExplorerItemModel::synchronized, this,
             [this]
             {

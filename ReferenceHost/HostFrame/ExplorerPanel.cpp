@@ -42,6 +42,7 @@ void CExplorerPanel::attachExplorer(IProjectExplorer& explorer)
 {
     detachExplorer();
     explorer_ = &explorer;
+    ++contentStamp_;
     connectToExplorer();
     treeChanged_();
 }
@@ -60,6 +61,7 @@ void CExplorerPanel::detachExplorer()
     explorerConnections_.clear();
     eventHandler_.reset();
     explorer_ = nullptr;
+    ++contentStamp_;
     treeChanged_();
 }
 
@@ -83,7 +85,10 @@ void CExplorerPanel::onObjectsChanged(std::uint32_t code, std::uint32_t value, c
         {
             for (IProjectExplorerGroup& group : explorer_->getGroups())
                 if (needsRebuild(group, value))
+                {
+                    ++groupContentStamps_[group.getId()];
                     group.rebuild();
+                }
 
             const EntityIdSet& selection = explorer_->getEntitySelection().getSelection();
             EntityIdSet gone;
@@ -134,6 +139,13 @@ const IProjectExplorer& CExplorerPanel::getExplorer() const
 {
     COMMON_PRECONDITION(explorer_ != nullptr);
     return *explorer_;
+}
+
+std::uint64_t CExplorerPanel::getContentStamp(const IProjectExplorerGroup& group) const
+{
+    // Both parts only grow, so their sum grows whenever either does.
+    const auto found = groupContentStamps_.find(group.getId());
+    return contentStamp_ + (found == groupContentStamps_.end() ? 0 : found->second);
 }
 
 CExplorerPanel::TreeChangedSignal& CExplorerPanel::treeChangedSignal() noexcept

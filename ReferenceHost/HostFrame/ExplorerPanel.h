@@ -1,12 +1,15 @@
 #pragma once
 
+#include "Common/UUID.h"
 #include "HostFrame/HostFrameApi.h"
 #include "aec/ProjectExplorerPanel.h"
 #include "aec/UserInputActor.h"
 
 #include <boost/signals2/connection.hpp>
 #include <boost/signals2/signal.hpp>
+#include <cstdint>
 #include <functional>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -68,6 +71,12 @@ public:
     IProjectExplorer& getExplorer();
     const IProjectExplorer& getExplorer() const;
 
+    // Grows whenever the entities that the group shows, or their names, could have changed: an
+    // explorer attached or detached, the group rebuilt after objects changed. A host that draws the
+    // tree from its own copy reads a group's entities again only when its stamp grew; folds,
+    // selections and grouping leave it as it is.
+    std::uint64_t getContentStamp(const IProjectExplorerGroup& group) const;
+
     TreeChangedSignal& treeChangedSignal() noexcept;
     RenameRequestedSignal& renameRequestedSignal() noexcept;
 
@@ -83,6 +92,8 @@ private:
     std::unique_ptr<IProjectExplorerGuiEventHandler> eventHandler_;
     std::vector<boost::signals2::scoped_connection> explorerConnections_;
     int changeDepth_ = 0;
+    std::uint64_t contentStamp_ = 0;
+    std::map<common::UUID, std::uint64_t> groupContentStamps_;
     TreeChangedSignal treeChanged_;
     RenameRequestedSignal renameRequested_;
 };

@@ -21,27 +21,40 @@ QString name(const QModelIndex& index)
     return index.data(Qt::EditRole).toString();
 }
 
+// Which entities the row shows against those of the subgroup; empty when they are the same.
+QString entitiesMismatch(const CExplorerItemModel& model, const QModelIndex& shown,
+                         const IProjectExplorerSubgroup& subgroup)
+{
+    EntityIdSet shownEntities;
+    for (int row = 0; row < model.rowCount(shown); ++row)
+    {
+        const CExplorerTreeNode* const node = model.nodeAt(model.index(row, 0, shown));
+        if (node->getKind() != CExplorerTreeNode::Kind::Entity)
+            return QString("\"%1\" shows a subgroup among its entities").arg(name(shown));
+        shownEntities.insert(node->getEntity());
+    }
+    const EntityIdSet entities(subgroup.getEntities().begin(), subgroup.getEntities().end());
+    if (shownEntities != entities)
+        return QString("\"%1\" shows %2 entities, not its %3")
+            .arg(name(shown))
+            .arg(shownEntities.size())
+            .arg(entities.size());
+    return {};
+}
+
 QString subgroupMismatch(const CExplorerItemModel& model, const QModelIndex& shown,
                          const IProjectExplorerSubgroup& subgroup)
 {
-    const QString expectedName = subgroup.getName().empty()
-                                     ? QString::fromStdWString(std::wstring(ungroupedSubgroupName))
-                                     : QString::fromStdWString(subgroup.getName());
+    const QString expectedName = QString::fromStdWString(subgroup.getName());
     if (name(shown) != expectedName)
         return QString("subgroup \"%1\" is shown as \"%2\"").arg(expectedName, name(shown));
     if (model.isExpanded(shown) != subgroup.isExpanded())
         return QString("subgroup \"%1\" is shown %2")
             .arg(expectedName, subgroup.isExpanded() ? "folded" : "unfolded");
-    EntityIdSet shownEntities;
-    for (int row = 0; row < model.rowCount(shown); ++row)
-        shownEntities.insert(model.nodeAt(model.index(row, 0, shown))->getEntity());
-    const EntityIdSet entities(subgroup.getEntities().begin(), subgroup.getEntities().end());
-    if (shownEntities != entities)
-        return QString("subgroup \"%1\" shows %2 entities, not its %3")
-            .arg(expectedName)
-            .arg(shownEntities.size())
-            .arg(entities.size());
-    if (shown.data(CExplorerItemModel::EntityCountRole).toULongLong() != entities.size())
+    if (const QString mismatch = entitiesMismatch(model, shown, subgroup); !mismatch.isEmpty())
+        return mismatch;
+    if (shown.data(CExplorerItemModel::EntityCountRole).toULongLong() !=
+        static_cast<qulonglong>(std::ranges::distance(subgroup.getEntities())))
         return QString("subgroup \"%1\" counts wrong").arg(expectedName);
     return {};
 }
@@ -62,15 +75,25 @@ QString explorerMismatch(const CExplorerItemModel& model, const IProjectExplorer
                 .arg(groupName, group.isExpanded() ? "folded" : "unfolded");
         int subgroupRow = 0;
         std::size_t entityCount = 0;
-        for (const IProjectExplorerSubgroup& subgroup : group.getSubgroups())
+        if (showsFlat(group))
         {
-            const QString mismatch = subgroupMismatch(model, model.index(subgroupRow++, 0, shown), subgroup);
-            if (!mismatch.isEmpty())
-                return QString("%1: %2").arg(groupName, mismatch);
-            entityCount += static_cast<std::size_t>(std::ranges::distance(subgroup.getEntities()));
+            const IProjectExplorerSubgroup& subgroup = flatSubgroup(group);
+            if (const QString mismatch = entitiesMismatch(model, shown, subgroup); !mismatch.isEmpty())
+                return mismatch;
+            subgroupRow = model.rowCount(shown);
+            entityCount = static_cast<std::size_t>(std::ranges::distance(subgroup.getEntities()));
         }
+        else
+            for (const IProjectExplorerSubgroup& subgroup : group.getSubgroups())
+            {
+                const QString mismatch =
+                    subgroupMismatch(model, model.index(subgroupRow++, 0, shown), subgroup);
+                if (!mismatch.isEmpty())
+                    return QString("%1: %2").arg(groupName, mismatch);
+                entityCount += static_cast<std::size_t>(std::ranges::distance(subgroup.getEntities()));
+            }
         if (model.rowCount(shown) != subgroupRow)
-            return QString("group \"%1\" shows %2 subgroups, not %3")
+            return QString("group \"%1\" shows %2 rows, not %3")
                 .arg(groupName)
                 .arg(model.rowCount(shown))
                 .arg(subgroupRow);
