@@ -237,17 +237,19 @@ void CExplorerItemModel::setExpanded(const QModelIndex& index, bool expanded)
                 panel.toggleSubgroup(groupRow, row);
                 return;
             }
-            panel.toggleGroup(row);
-            // A flat group shows the entities of its only subgroup, which unfolds with it, so that
-            // the explorer's stored state says what the user sees.
-            const IProjectExplorerGroup& group =
-                *std::next(std::as_const(panel.getExplorer()).getGroups().begin(), row);
-            if (expanded && showsFlat(group) && !flatSubgroup(group).isExpanded())
-                panel.toggleSubgroup(row, 0);
+            toggleGroupInPanel(panel, row, expanded);
         });
     // The toggle's tree change brought the node up to date, or the node is gone.
     if (kept.isValid() && isExpanded(kept) != expanded)
         Q_EMIT expandedChanged(kept, isExpanded(kept));
+}
+
+void CExplorerItemModel::toggleGroupInPanel(host::CExplorerPanel& panel, int row, bool expanded)
+{
+    panel.toggleGroup(row);
+    const IProjectExplorerGroup& group = *std::next(std::as_const(panel.getExplorer()).getGroups().begin(), row);
+    if (showsFlat(group) && flatSubgroup(group).isExpanded() != expanded)
+        panel.toggleSubgroup(row, 0);
 }
 
 void CExplorerItemModel::synchronize()

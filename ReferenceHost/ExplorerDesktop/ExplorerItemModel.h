@@ -23,6 +23,7 @@ class IProjectExplorerSubgroup;
 
 namespace aec::host
 {
+class CExplorerPanel;
 class CExplorerSession;
 } // namespace aec::host
 
@@ -59,6 +60,11 @@ public:
 
     CExplorerItemModel(host::CExplorerSession& session, CCommandRunner& runner, QObject* parent = nullptr);
     ~CExplorerItemModel() override;
+
+    // Folds or unfolds group ROW through the panel, as a click does. A flat group shows the
+    // entities of its only subgroup, which folds and unfolds with it, so that the explorer's stored
+    // state says what the user sees.
+    static void toggleGroupInPanel(host::CExplorerPanel& panel, int row, bool expanded);
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& child) const override;

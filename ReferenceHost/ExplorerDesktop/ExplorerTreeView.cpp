@@ -289,7 +289,7 @@ void CExplorerTreeView::foldThroughExplorer(const QModelIndex& itemIndex, bool e
                         if (index.parent().isValid())
                             panel_.toggleSubgroup(index.parent().row(), index.row());
                         else
-                            panel_.toggleGroup(index.row());
+                            CExplorerItemModel::toggleGroupInPanel(panel_, index.row(), expanded);
                     }
                 });
         });
