@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <fmt/format.h>
 #include <string_view>
 
@@ -42,10 +43,12 @@ bool isBlank(wchar_t character)
     return std::ranges::find(blanks, character) != blanks.end();
 }
 
-// The C0 and C1 controls.
+// The C0 and C1 controls. Compared as an unsigned code: wchar_t is signed on Linux and unsigned on
+// Windows.
 bool isControl(wchar_t character)
 {
-    return (character >= 0 && character < 0x20) || (character >= 0x7F && character < 0xA0);
+    const auto code = static_cast<std::uint32_t>(character);
+    return code < 0x20 || (code >= 0x7F && code < 0xA0);
 }
 
 // Characters that take no room and show nothing: zero-width spaces and joiners, directional marks,

@@ -23,7 +23,7 @@ std::size_t skipDigits(std::string_view text, std::size_t& position)
     return position - start;
 }
 
-bool isBlank(std::string_view text)
+bool isBlankCell(std::string_view text)
 {
     return std::ranges::all_of(text, [](char character) { return character == ' '; });
 }
@@ -65,19 +65,19 @@ bool CHeaderRowDetector::detect(const std::vector<std::vector<std::string>>& row
     if (rows.empty())
         return false;
     const std::vector<std::string>& first = rows.front();
-    if (std::ranges::any_of(first, &CHeaderRowDetector::isNumber) || std::ranges::all_of(first, isBlank))
+    if (std::ranges::any_of(first, &CHeaderRowDetector::isNumber) || std::ranges::all_of(first, isBlankCell))
         return false;
     if (rows.size() == 1)
         return true;
     for (std::size_t column = 0; column < first.size(); ++column)
     {
-        if (isBlank(first[column]))
+        if (isBlankCell(first[column]))
             continue;
         bool anyNumber = false;
         bool onlyNumbers = true;
         for (std::size_t row = 1; row < rows.size() && onlyNumbers; ++row)
         {
-            if (column >= rows[row].size() || isBlank(rows[row][column]))
+            if (column >= rows[row].size() || isBlankCell(rows[row][column]))
                 continue;
             anyNumber = true;
             onlyNumbers = isNumber(rows[row][column]);

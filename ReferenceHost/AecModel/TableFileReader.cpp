@@ -4,10 +4,14 @@
 #include "AecModel/DelimiterSniffer.h"
 #include "AecModel/HeaderRowDetector.h"
 #include "AecModel/InputFile.h"
+#ifndef _WIN32
 #include "AecModel/SpreadsheetReaders.h"
+#endif
 #include "AecModel/TextDecoder.h"
 #include "AecModel/TextEncodingDetector.h"
+#ifndef _WIN32
 #include "AecModel/ZipArchive.h"
+#endif
 #include "Common/Exception.h"
 
 #include <fstream>
@@ -71,6 +75,13 @@ CTableFileReader::Result readText(std::string bytes, const TableReadChoices& cho
     return result;
 }
 
+#ifdef _WIN32
+// The Windows build goes without the zip and XML libraries the spreadsheet readers need.
+CTableFileReader::Result readSpreadsheet(const std::string&, std::size_t, const TableReadProgress&)
+{
+    throw common::EException("this build cannot read spreadsheets; save the sheet as CSV and import that");
+}
+#else
 CTableFileReader::Result readSpreadsheet(const std::string& bytes, std::size_t rowLimit,
                                          const TableReadProgress& progress)
 {
@@ -93,6 +104,7 @@ CTableFileReader::Result readSpreadsheet(const std::string& bytes, std::size_t r
     result.report.sheetCount = sheet.sheetCount;
     return result;
 }
+#endif
 
 } // namespace
 

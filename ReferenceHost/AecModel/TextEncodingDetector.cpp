@@ -2,8 +2,10 @@
 
 #include "AecModel/Utf8Validation.h"
 
+#ifndef _WIN32
 #include <memory>
 #include <unicode/ucsdet.h>
+#endif
 
 namespace aec::model
 {
@@ -11,10 +13,18 @@ namespace aec::model
 namespace
 {
 
+#ifdef _WIN32
+// The Windows build has no ICU to weigh the text's statistics: text that is neither marked nor valid
+// UTF-8 is taken for Windows-1252, which is what spreadsheet programs on Windows mostly write.
+std::string detectUnmarked(std::string_view)
+{
+    return "windows-1252";
+}
+#else
 // ICU's detector weighs statistics of the text; a few tens of kilobytes are as telling as the whole.
 constexpr std::size_t detectionSample = 64 * 1024;
 
-std::string detectWithIcu(std::string_view bytes)
+std::string detectUnmarked(std::string_view bytes)
 {
     UErrorCode status = U_ZERO_ERROR;
     const std::unique_ptr<UCharsetDetector, decltype(&ucsdet_close)> detector(ucsdet_open(&status),
@@ -33,6 +43,7 @@ std::string detectWithIcu(std::string_view bytes)
         return "windows-1252";
     return std::string(detected);
 }
+#endif
 
 } // namespace
 
@@ -46,7 +57,7 @@ std::string CTextEncodingDetector::detect(std::string_view bytes)
         return "UTF-16BE";
     if (!firstInvalidUtf8Line(bytes))
         return "UTF-8";
-    return detectWithIcu(bytes);
+    return detectUnmarked(bytes);
 }
 
 } // namespace aec::model

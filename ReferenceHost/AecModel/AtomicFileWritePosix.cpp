@@ -1,5 +1,6 @@
 #include "AecModel/AtomicFileWrite.h"
-
+#include "AecModel/LinkTarget.h"
+#include "AecModel/SavingFileName.h"
 #include "Common/Exception.h"
 
 #include <cerrno>
@@ -14,9 +15,6 @@ namespace aec::model
 
 namespace
 {
-
-// Linux's own limit of links followed in one path lookup.
-constexpr int maximumLinkHops = 40;
 
 std::string reasonOf(int error)
 {
@@ -40,22 +38,6 @@ std::string reasonOf(int error)
     throw common::EException(fmt::format("{} ({})", what, reasonOf(error)));
 }
 
-// The file that the path finally names; a link to a link is followed to the end.
-std::filesystem::path followLinks(std::filesystem::path path)
-{
-    for (int hop = 0; hop < maximumLinkHops; ++hop)
-    {
-        std::error_code error;
-        if (!std::filesystem::is_symlink(std::filesystem::symlink_status(path, error)))
-            return path;
-        const std::filesystem::path link = std::filesystem::read_symlink(path, error);
-        if (error)
-            fail("its link cannot be read", error.value());
-        path = link.is_absolute() ? link : path.parent_path() / link;
-    }
-    throw common::EException("its links lead round in a circle");
-}
-
 // Owns the new file until it has replaced the target: the destructor closes it and, unless it was
 // renamed, removes it, so that no failure leaves a half-written file behind.
 class TemporaryFile
@@ -63,12 +45,10 @@ class TemporaryFile
 public:
     explicit TemporaryFile(const std::filesystem::path& target)
     {
-        // A name of its own per process and attempt; O_EXCL makes sure that it is a new file.
-        static unsigned attempt = 0;
+        // O_EXCL makes sure that it is a new file.
         for (int tries = 0; tries < 100; ++tries)
         {
-            path_ = target;
-            path_ += fmt::format(".{}-{}.saving", ::getpid(), ++attempt);
+            path_ = savingFileBeside(target, static_cast<unsigned long>(::getpid()));
             // 0666 less the umask, as any new file of the user; a target's mode is copied later.
             descriptor_ = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
             if (descriptor_ >= 0)
@@ -148,7 +128,7 @@ void flushFolder(const std::filesystem::path& folder)
 
 void writeFileAtomically(const std::filesystem::path& path, std::string_view bytes)
 {
-    const std::filesystem::path target = followLinks(path);
+    const std::filesystem::path target = finalLinkTarget(path);
     struct stat existing
     {
     };
