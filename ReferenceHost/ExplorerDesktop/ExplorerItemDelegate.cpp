@@ -26,7 +26,7 @@ struct KindIcon
     QStyle::StandardPixmap fallback;
 };
 
-// Names from the freedesktop icon naming specification, which Qt's icon themes follow; the
+// Names from the freedesktop icon naming rules, which Qt's icon themes follow; the
 // style's own pixmaps stand in where the platform has no theme (Windows, the offscreen platform).
 const std::map<EntityCollection, KindIcon>& kindIcons()
 {
