@@ -153,7 +153,7 @@ CFractionalIndex::CFractionalIndex(Bytes bytes) : CFractionalIndex(Unchecked{}, 
 }
 
 CFractionalIndex::CFractionalIndex(Unchecked, Bytes bytes) noexcept
-    : bytes_(std::move(bytes)), bitLength_(bitLengthOf(bytes_))
+    : bitLength_(bitLengthOf(bytes)), bytes_(std::move(bytes))
 {
 }
 

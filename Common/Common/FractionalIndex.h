@@ -87,8 +87,9 @@ private:
     };
     CFractionalIndex(Unchecked, Bytes bytes) noexcept;
 
-    Bytes bytes_;
+    // The host's own layout of a key: its bit length, then its bytes.
     std::uint64_t bitLength_;
+    Bytes bytes_;
 };
 
 } // namespace common

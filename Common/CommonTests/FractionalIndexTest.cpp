@@ -5,6 +5,7 @@
 #include "CommonTests/ViolationSite.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <functional>
 #include <gtest/gtest.h>
 #include <random>
@@ -72,6 +73,17 @@ TEST(FractionalIndexTest, ComparesBytesAsUnsignedValuesWithPrefixesFirst)
 
     EXPECT_THROW(key({}), common::EPreconditionViolation);
     EXPECT_THROW(key({0x80, 0x00}), common::EPreconditionViolation);
+}
+
+// Keys cross into the host laid out as its own: the table of virtual functions, the bit length,
+// then the bytes.
+TEST(FractionalIndexTest, BitLengthPrecedesTheBytesInTheObject)
+{
+    const CFractionalIndex half;
+    const auto* const object = reinterpret_cast<const std::byte*>(&half);
+    const auto* const bytes = reinterpret_cast<const std::byte*>(&half.bytes());
+    EXPECT_EQ(bytes - object, static_cast<std::ptrdiff_t>(sizeof(void*) + sizeof(std::uint64_t)));
+    EXPECT_EQ(sizeof(CFractionalIndex), sizeof(void*) + sizeof(std::uint64_t) + sizeof(Bytes));
 }
 
 TEST(FractionalIndexTest, AfterIncrementsWithinSixBytesAndSaltsTwoMore)
