@@ -20,11 +20,14 @@
 #include "aec/ObjectEvents.h"
 #include "aec/ProjectExplorer.h"
 #include "aec/ProjectExplorerFactory.h"
+#include "aec/ProjectExplorerGroup.h"
 #include "aec/ProjectExplorerGroupInfo.h"
+#include "aec/ProjectExplorerSubgroup.h"
 
 #include <QStandardItemModel>
 #include <benchmark/benchmark.h>
 #include <cstdint>
+#include <iterator>
 #include <memory>
 
 namespace benchmarks
@@ -221,6 +224,29 @@ void BM_UndoDelete(benchmark::State& state)
         [&scale] { undo(scale); }, nothing);
 }
 
+// Every entity of the largest group's largest subgroup, selected through the panel.
+auto selectLargestSubgroup(CScaleSession& scale)
+{
+    return [&scale]
+    {
+        const int index = scale.largestSubgroupIndex();
+        const aec::IProjectExplorerSubgroup& subgroup =
+            *std::next(scale.largestGroup().getSubgroups().begin(), index);
+        const auto entities = subgroup.getEntities();
+        scale.session().getPanel().changeSelection(aec::EntityIdSet(entities.begin(), entities.end()), {});
+    };
+}
+
+// Deleting every entity of one subgroup: the rebuild destroys that subgroup and keeps every other
+// subgroup of the group, whose listeners must tell the kept ones from the new and the gone.
+void BM_DeleteSubgroup(benchmark::State& state)
+{
+    CScaleSession& scale = sessionOf(state);
+    timeBetween(
+        state, selectLargestSubgroup(scale), [&scale] { runCommand(scale, aec::commands::deleteSelection); },
+        [&scale] { undo(scale); });
+}
+
 void BM_Copy(benchmark::State& state)
 {
     CScaleSession& scale = sessionOf(state);
@@ -323,6 +349,7 @@ BENCHMARK(BM_SelectNone)->Name("explorer/select/none")->Apply(sizes);
 BENCHMARK(BM_SelectOneMore)->Name("explorer/select/one-more")->Apply(sizes);
 BENCHMARK(BM_Delete)->Name("explorer/delete")->Apply(sizesAndThousand);
 BENCHMARK(BM_UndoDelete)->Name("explorer/undo-delete")->Apply(sizesAndThousand);
+BENCHMARK(BM_DeleteSubgroup)->Name("explorer/delete-subgroup")->Apply(sizes);
 BENCHMARK(BM_Copy)->Name("explorer/copy")->Apply(sizesAndTenth);
 BENCHMARK(BM_Paste)->Name("explorer/paste")->Apply(sizesAndTenth);
 BENCHMARK(BM_RebuildGroupable)->Name("explorer/rebuild/groupable")->Apply(sizes);
