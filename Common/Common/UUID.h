@@ -107,8 +107,8 @@ private:
 
 COMMON_API std::ostream& operator<<(std::ostream& stream, const UUID& uuid);
 
-// The 31-bit positive key derived from a UUID constant: 1 for the nil UUID (so that no key is 0),
-// otherwise the low 31 bits of the hash.
+// The 31-bit non-negative key derived from a UUID constant: 1 for the nil UUID, otherwise the low
+// 31 bits of the hash, which are 0 for the rare UUID whose hash has them all clear.
 constexpr std::int32_t keyFromUuid(const UUID& uuid) noexcept
 {
     if (uuid.isNull())
