@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -8,9 +9,9 @@ namespace aec::shell
 
 // The terminal explorer-shell talks to, where the platforms part: on Linux GNU Readline edits the
 // typed line and keeps the history (ShellTerminalReadline.cpp); on Windows the console does both
-// itself and the shell reads its UTF-16 lines (ShellTerminalWin32.cpp). One per program, made
-// before anything is written: it sets the terminal up for UTF-8 text and restores it when
-// destroyed.
+// itself and the shell reads and writes UTF-16 (ShellTerminalWin32.cpp). One per program, made
+// before anything is written: it sets std::cout and std::cerr up to show UTF-8 text on the terminal
+// and restores them when destroyed.
 class CShellTerminal
 {
 public:
@@ -30,6 +31,11 @@ public:
     // The same for an answer to a question, which stays out of the history where the platform
     // lets it.
     std::optional<std::string> readAnswer(const std::string& prompt);
+
+private:
+    // What the platform's terminal needs to keep.
+    struct PlatformState;
+    std::unique_ptr<PlatformState> state_;
 };
 
 } // namespace aec::shell

@@ -34,7 +34,11 @@ std::optional<std::string> readTypedLine(const std::string& prompt, bool remembe
 
 } // namespace
 
-// A Linux terminal shows UTF-8 as it is written.
+// A Linux terminal shows UTF-8 as it is written, and readline keeps its own state.
+struct CShellTerminal::PlatformState
+{
+};
+
 CShellTerminal::CShellTerminal() = default;
 CShellTerminal::~CShellTerminal() = default;
 

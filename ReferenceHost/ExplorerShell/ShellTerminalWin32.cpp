@@ -1,18 +1,18 @@
 #include "AecModel/WideText.h"
+#include "ConsoleOutputBuffer.h"
 #include "ShellTerminal.h"
 
 #include <array>
 #include <iostream>
+#include <memory>
+#include <utility>
+#include <vector>
 #include <windows.h>
 
 namespace aec::shell
 {
 namespace
 {
-
-// The console's output code page before the shell set UTF-8; 0 when it set none. A program has one
-// terminal, and the Ctrl+C handler, a plain function, has no object to keep state in either.
-UINT outputCodePageToRestore = 0;
 
 // Ctrl+C ends the console's pending read (see readConsoleLine) and then calls this on a thread of
 // its own; handled here, it does not end the program. Ctrl+Break and closing the window still do.
@@ -72,22 +72,41 @@ bool isConsole(HANDLE handle)
 
 } // namespace
 
-// The shell writes UTF-8; a console shows it as such only in the UTF-8 code page, which the
-// console keeps after the program ends, so the one it had comes back then.
-CShellTerminal::CShellTerminal()
+// The streams a console shows take the console's own UTF-16 output; a redirected one stays as it
+// is and gets the UTF-8 bytes.
+struct CShellTerminal::PlatformState
 {
-    if (!isConsole(GetStdHandle(STD_OUTPUT_HANDLE)) && !isConsole(GetStdHandle(STD_ERROR_HANDLE)))
-        return;
-    const UINT codePage = GetConsoleOutputCP();
-    if (codePage != 0 && codePage != CP_UTF8 && SetConsoleOutputCP(CP_UTF8) != FALSE)
-        outputCodePageToRestore = codePage;
+    struct Replaced
+    {
+        std::ostream& stream;
+        std::streambuf* original;
+        std::unique_ptr<CConsoleOutputBuffer> console;
+    };
+    std::vector<Replaced> replaced;
+};
+
+CShellTerminal::CShellTerminal() : state_(std::make_unique<PlatformState>())
+{
+    for (const auto& [stream, handle] : {std::pair<std::ostream*, DWORD>{&std::cout, STD_OUTPUT_HANDLE},
+                                         std::pair<std::ostream*, DWORD>{&std::cerr, STD_ERROR_HANDLE}})
+    {
+        const HANDLE output = GetStdHandle(handle);
+        if (!isConsole(output))
+            continue;
+        stream->flush();
+        auto console = std::make_unique<CConsoleOutputBuffer>(output);
+        std::streambuf* const original = stream->rdbuf(console.get());
+        state_->replaced.push_back({*stream, original, std::move(console)});
+    }
 }
 
 CShellTerminal::~CShellTerminal()
 {
-    if (outputCodePageToRestore != 0)
-        SetConsoleOutputCP(outputCodePageToRestore);
-    outputCodePageToRestore = 0;
+    for (PlatformState::Replaced& replaced : state_->replaced)
+    {
+        replaced.stream.flush();
+        replaced.stream.rdbuf(replaced.original);
+    }
 }
 
 bool CShellTerminal::isInputInteractive()
