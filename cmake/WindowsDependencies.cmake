@@ -1,12 +1,13 @@
-# The libraries of the Windows cross build. Boost, fmt and nlohmann-json are used header only, from
-# Debian's headers: a folder of the build links to just their include folders, so that the Linux
-# system headers beside them in /usr/include never reach the Windows compiler. GoogleTest builds
-# from the sources Debian ships. The targets carry the names that find_package gives on Linux.
+# The libraries of the Windows cross build. Boost, fmt, nlohmann-json and CLI11 are used header
+# only, from Debian's headers: a folder of the build links to just their include folders, so that
+# the Linux system headers beside them in /usr/include never reach the Windows compiler. GoogleTest
+# builds from the sources Debian ships. The targets carry the names that find_package gives on
+# Linux.
 
 set(PROJECT_HEADER_ONLY_ROOT /usr/include CACHE PATH "Where the header-only libraries' folders are")
 set(header_only_dir ${CMAKE_BINARY_DIR}/header-only-include)
 file(MAKE_DIRECTORY ${header_only_dir})
-foreach(library_dir IN ITEMS boost fmt nlohmann)
+foreach(library_dir IN ITEMS boost fmt nlohmann CLI)
     if(NOT EXISTS ${PROJECT_HEADER_ONLY_ROOT}/${library_dir})
         message(FATAL_ERROR "${PROJECT_HEADER_ONLY_ROOT}/${library_dir} is missing: ./scripts/setup installs it")
     endif()
@@ -29,6 +30,9 @@ target_compile_definitions(fmt::fmt INTERFACE FMT_HEADER_ONLY)
 
 add_library(nlohmann_json::nlohmann_json INTERFACE IMPORTED GLOBAL)
 target_include_directories(nlohmann_json::nlohmann_json INTERFACE ${header_only_dir})
+
+add_library(CLI11::CLI11 INTERFACE IMPORTED GLOBAL)
+target_include_directories(CLI11::CLI11 INTERFACE ${header_only_dir})
 
 if(BUILD_TESTING)
     set(PROJECT_GOOGLETEST_SOURCE /usr/src/googletest CACHE PATH "GoogleTest's sources")

@@ -73,44 +73,60 @@ wchar_t foldAsciiCase(wchar_t character) noexcept
     return codeUnit(character) - U'A' < 26u ? static_cast<wchar_t>(character | 0x20) : character;
 }
 
-// The block scan compares 32-bit code units; with a 16-bit wchar_t (Windows) the scan goes one code
-// unit at a time.
-#if defined(__SSE2__) && __SIZEOF_WCHAR_T__ == 4
+#if defined(__SSE2__)
 #define COMMON_LOGICAL_COMPARE_SSE2 1
 #endif
 
 #if defined(COMMON_LOGICAL_COMPARE_SSE2)
-static_assert(sizeof(wchar_t) == 4, "the scan compares 32-bit code units");
+static_assert(sizeof(wchar_t) == 4 || sizeof(wchar_t) == 2, "the scan compares UTF-32 or UTF-16 code units");
+
+// Code units in one 16-byte register: four of UTF-32 (Linux), eight of UTF-16 (Windows).
+constexpr std::size_t unitsPerLoad = 16 / sizeof(wchar_t);
 
 // The block helpers below are forced inline: GCC keeps them out of line otherwise, and the calls
 // cost a sixth of a comparison of neighbouring names.
 
-// Four code units from `at`, ASCII capitals folded to small letters. The comparisons are signed:
-// code units beyond Unicode are negative and fold to themselves.
+// One register of code units from `at`, ASCII capitals folded to small letters. The comparisons
+// are signed: UTF-32 code units beyond Unicode and UTF-16 code units from U+8000 on (the
+// surrogates among them) are negative and fold to themselves.
 [[gnu::always_inline]] inline __m128i loadFolded(const wchar_t* at) noexcept
 {
     const __m128i units = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
-    const __m128i capital = _mm_and_si128(_mm_cmpgt_epi32(units, _mm_set1_epi32(U'A' - 1)),
-                                          _mm_cmpgt_epi32(_mm_set1_epi32(U'Z' + 1), units));
-    return _mm_or_si128(units, _mm_and_si128(capital, _mm_set1_epi32(0x20)));
+    if constexpr (sizeof(wchar_t) == 4)
+    {
+        const __m128i capital = _mm_and_si128(_mm_cmpgt_epi32(units, _mm_set1_epi32(U'A' - 1)),
+                                              _mm_cmpgt_epi32(_mm_set1_epi32(U'Z' + 1), units));
+        return _mm_or_si128(units, _mm_and_si128(capital, _mm_set1_epi32(0x20)));
+    }
+    else
+    {
+        const __m128i capital = _mm_and_si128(_mm_cmpgt_epi16(units, _mm_set1_epi16(u'A' - 1)),
+                                              _mm_cmpgt_epi16(_mm_set1_epi16(u'Z' + 1), units));
+        return _mm_or_si128(units, _mm_and_si128(capital, _mm_set1_epi16(0x20)));
+    }
 }
 
-// One bit per byte of four code units, set where left and right match.
-[[gnu::always_inline]] inline std::uint32_t matchingBytes4(const wchar_t* left, const wchar_t* right) noexcept
+// One bit per byte of one register of code units, set where left and right match.
+[[gnu::always_inline]] inline std::uint32_t matchingBytes(const wchar_t* left, const wchar_t* right) noexcept
 {
-    return static_cast<std::uint32_t>(
-        _mm_movemask_epi8(_mm_cmpeq_epi32(loadFolded(left), loadFolded(right))));
+    const __m128i leftUnits = loadFolded(left);
+    const __m128i rightUnits = loadFolded(right);
+    if constexpr (sizeof(wchar_t) == 4)
+        return static_cast<std::uint32_t>(_mm_movemask_epi8(_mm_cmpeq_epi32(leftUnits, rightUnits)));
+    else
+        return static_cast<std::uint32_t>(_mm_movemask_epi8(_mm_cmpeq_epi16(leftUnits, rightUnits)));
 }
 
-[[gnu::always_inline]] inline std::uint32_t matchingBytes8(const wchar_t* left, const wchar_t* right) noexcept
+// The same for two registers.
+[[gnu::always_inline]] inline std::uint32_t matchingBytes2(const wchar_t* left, const wchar_t* right) noexcept
 {
-    return matchingBytes4(left, right) | (matchingBytes4(left + 4, right + 4) << 16);
+    return matchingBytes(left, right) | (matchingBytes(left + unitsPerLoad, right + unitsPerLoad) << 16);
 }
 
 // The first code unit that does not match, from the mask of the bytes that do.
 std::size_t firstMismatch(std::uint32_t matchingBytes) noexcept
 {
-    return static_cast<std::size_t>(std::countr_zero(~matchingBytes)) / 4;
+    return static_cast<std::size_t>(std::countr_zero(~matchingBytes)) / sizeof(wchar_t);
 }
 #endif
 
@@ -118,34 +134,39 @@ std::size_t firstMismatch(std::uint32_t matchingBytes) noexcept
 // match without regard to case. Neighbouring names in a sorted list share long prefixes ("Level 03
 // - Sheet 0012 ..."), often in different case ("DOOR D-12", "Door D-14"), and this scan is most of
 // the work of comparing them. The standard algorithms (std::mismatch) go one element at a time and
-// wmemcmp neither folds case nor tells where the texts differ, so the scan compares eight code
-// units per step with SSE2, which every x86-64 processor has; elsewhere it goes one at a time.
+// wmemcmp neither folds case nor tells where the texts differ, so the scan compares two registers
+// of code units per step with SSE2, which every x86-64 processor has: eight UTF-32 units or sixteen
+// UTF-16 units. Elsewhere it goes one at a time. It may stop between the two halves of a surrogate
+// pair; the caller steps back to the whole character.
 std::size_t commonPrefixLength(const wchar_t* left, const wchar_t* right, std::size_t length) noexcept
 {
     // Names from unrelated places of a list mostly differ at once; they need no block compare.
     if (length == 0 || foldAsciiCase(left[0]) != foldAsciiCase(right[0]))
         return 0;
 #if defined(COMMON_LOGICAL_COMPARE_SSE2)
-    if (length >= 8)
+    constexpr std::size_t unitsPerBlock = 2 * unitsPerLoad;
+    if (length >= unitsPerBlock)
     {
         std::size_t same = 0;
-        for (; same + 8 <= length; same += 8)
-            if (const std::uint32_t matching = matchingBytes8(left + same, right + same);
+        for (; same + unitsPerBlock <= length; same += unitsPerBlock)
+            if (const std::uint32_t matching = matchingBytes2(left + same, right + same);
                 matching != 0xFFFFFFFFu)
                 return same + firstMismatch(matching);
         // The last block ends at the end and overlaps units known to match, so its first mismatch
         // lies beyond them.
         if (same == length)
             return length;
-        const std::uint32_t matching = matchingBytes8(left + length - 8, right + length - 8);
-        return matching == 0xFFFFFFFFu ? length : length - 8 + firstMismatch(matching);
+        const std::uint32_t matching =
+            matchingBytes2(left + length - unitsPerBlock, right + length - unitsPerBlock);
+        return matching == 0xFFFFFFFFu ? length : length - unitsPerBlock + firstMismatch(matching);
     }
-    if (length >= 4)
+    if (length >= unitsPerLoad)
     {
-        if (const std::uint32_t matching = matchingBytes4(left, right); matching != 0xFFFFu)
+        if (const std::uint32_t matching = matchingBytes(left, right); matching != 0xFFFFu)
             return firstMismatch(matching);
-        const std::uint32_t matching = matchingBytes4(left + length - 4, right + length - 4);
-        return matching == 0xFFFFu ? length : length - 4 + firstMismatch(matching | 0xFFFF0000u);
+        const std::uint32_t matching =
+            matchingBytes(left + length - unitsPerLoad, right + length - unitsPerLoad);
+        return matching == 0xFFFFu ? length : length - unitsPerLoad + firstMismatch(matching | 0xFFFF0000u);
     }
 #endif
     std::size_t same = 1;

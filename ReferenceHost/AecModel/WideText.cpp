@@ -30,4 +30,9 @@ std::string toValidUtf8(std::string_view text)
     return boost::locale::conv::utf_to_utf<char>(text.data(), text.data() + text.size());
 }
 
+std::filesystem::path pathFromUtf8(std::string_view text)
+{
+    return std::filesystem::path(std::u8string(text.begin(), text.end()));
+}
+
 } // namespace aec::model

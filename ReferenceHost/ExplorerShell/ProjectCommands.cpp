@@ -3,6 +3,7 @@
 #include "AecModel/Project.h"
 #include "AecModel/UndoHistory.h"
 #include "AecModel/UndoStepLabel.h"
+#include "AecModel/WideText.h"
 #include "Common/Exception.h"
 #include "ExplorerShell/CommandLine.h"
 #include "ExplorerShell/CommandTable.h"
@@ -10,23 +11,11 @@
 #include "HostFrame/ExplorerSession.h"
 #include "HostServices/HostServices.h"
 
-#include <filesystem>
 #include <fmt/format.h>
 #include <ostream>
 
 namespace aec::shell
 {
-
-namespace
-{
-
-// Command lines are UTF-8, whatever the locale says.
-std::filesystem::path pathFromUtf8(const std::string& text)
-{
-    return std::filesystem::path(std::u8string(text.begin(), text.end()));
-}
-
-} // namespace
 
 CProjectCommands::CProjectCommands(host::CExplorerSession& session, CCommandTable& table)
     : CCommandSet(session)
@@ -99,7 +88,7 @@ void CProjectCommands::answer(const CCommandLine& line, std::ostream& out)
 
 void CProjectCommands::save(const CCommandLine& line, std::ostream& out)
 {
-    session_.save(pathFromUtf8(line.getArgument(0).text));
+    session_.save(model::pathFromUtf8(line.getArgument(0).text));
     out << "saved: " << CCommandLine::quote(line.getArgument(0).text) << '\n';
 }
 
@@ -107,7 +96,7 @@ void CProjectCommands::load(const CCommandLine& line, std::ostream& out)
 {
     if (session_.hasProject())
         CUnsavedChanges(session_).confirmDiscard("loading another project", "load");
-    session_.load(pathFromUtf8(line.getArgument(0).text));
+    session_.load(model::pathFromUtf8(line.getArgument(0).text));
     out << "loaded: " << CCommandLine::quote(line.getArgument(0).text) << '\n';
     const model::CProject& project = session_.getProject();
     for (const std::string& note : project.getLoadNotes())

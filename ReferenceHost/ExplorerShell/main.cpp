@@ -6,13 +6,14 @@
 #include "Common/AssertionViolation.h"
 #include "Common/Exception.h"
 #include "ExplorerShell/ShellCommandInterpreter.h"
+#include "ExplorerShell/ShellOptions.h"
 #include "HostFrame/ExplorerSession.h"
 #include "HostFrame/StatusService.h"
 #include "HostServices/HostServices.h"
 #include "ShellInput.h"
+#include "ShellTerminal.h"
 
-#include <boost/program_options.hpp>
-#include <cstdint>
+#include <boost/nowide/args.hpp>
 #include <iostream>
 #include <optional>
 #include <string>
@@ -20,66 +21,9 @@
 namespace
 {
 
-namespace options = boost::program_options;
+using aec::shell::ShellOptions;
 
-struct ShellOptions
-{
-    std::optional<std::string> project;
-    std::optional<std::string> script;
-    std::optional<std::uint64_t> seed;
-    std::optional<aec::DialogAnswer> answer;
-};
-
-constexpr const char* usage =
-    "Usage: explorer-shell [PROJECT.json] [--script FILE] [--seed N] [--answer yes|no]";
-
-options::options_description describeOptions()
-{
-    options::options_description description("Options");
-    description.add_options()("help,h", "show this help and the commands")(
-        "script", options::value<std::string>(), "run the commands of FILE; stop at the first that fails")(
-        "seed", options::value<std::uint64_t>(), "make identifiers from seed N, so that runs repeat exactly")(
-        "answer", options::value<std::string>(),
-        "answer confirmations yes or no unless told otherwise (default no)")(
-        "project", options::value<std::string>(), "the project file to open (default: the sample project)");
-    return description;
-}
-
-// Throws options::error or common::EException for options that do not parse; nothing when only help
-// was asked for.
-std::optional<ShellOptions> parseOptions(int argc, char** argv)
-{
-    const options::options_description description = describeOptions();
-    options::positional_options_description positional;
-    positional.add("project", 1);
-    options::variables_map values;
-    options::store(options::command_line_parser(argc, argv).options(description).positional(positional).run(),
-                   values);
-    options::notify(values);
-    if (values.count("help") != 0)
-    {
-        std::cout << usage << "\n\n" << description << '\n';
-        return std::nullopt;
-    }
-
-    ShellOptions parsed;
-    if (values.count("project") != 0)
-        parsed.project = values["project"].as<std::string>();
-    if (values.count("script") != 0)
-        parsed.script = values["script"].as<std::string>();
-    if (values.count("seed") != 0)
-        parsed.seed = values["seed"].as<std::uint64_t>();
-    if (values.count("answer") != 0)
-    {
-        const std::string& answer = values["answer"].as<std::string>();
-        if (answer != "yes" && answer != "no")
-            throw common::EException("--answer takes yes or no, not \"" + answer + "\".");
-        parsed.answer = answer == "yes" ? aec::DialogAnswer::Yes : aec::DialogAnswer::No;
-    }
-    return parsed;
-}
-
-int runShell(const ShellOptions& parsed)
+int runShell(const ShellOptions& parsed, aec::shell::CShellTerminal& terminal)
 {
     using aec::shell::CShellInput;
 
@@ -87,24 +31,24 @@ int runShell(const ShellOptions& parsed)
     if (parsed.answer)
         session.getHostServices().getDialogService().setDefaultAnswer(*parsed.answer);
     if (parsed.project)
-        session.load(std::filesystem::path(std::u8string(parsed.project->begin(), parsed.project->end())));
+        session.load(aec::model::pathFromUtf8(*parsed.project));
     else
         session.open(aec::model::buildSampleProject());
     if (const std::wstring& status = session.getStatusService().getLastMessage(); !status.empty())
         std::cout << "status: " << aec::model::toUtf8(status) << '\n';
 
     CShellInput input =
-        parsed.script ? CShellInput::fromScript(*parsed.script) : CShellInput::fromStandardInput();
+        parsed.script ? CShellInput::fromScript(*parsed.script) : CShellInput::fromStandardInput(terminal);
     aec::shell::CShellCommandInterpreter interpreter(session, std::cout, &std::cerr);
     const bool atTerminal = input.getSource() == CShellInput::Source::Terminal;
     if (atTerminal)
     {
         // Questions that no `answer` answered go to the user; scripts and pipes keep the default.
         session.getHostServices().getDialogService().setAskCallback(
-            [](const aec::host::CScriptedDialogService::Question& question)
+            [&input](const aec::host::CScriptedDialogService::Question& question)
             {
-                return CShellInput::askAtTerminal(aec::model::toUtf8(question.text)) ? aec::DialogAnswer::Yes
-                                                                                     : aec::DialogAnswer::No;
+                return input.askAtTerminal(aec::model::toUtf8(question.text)) ? aec::DialogAnswer::Yes
+                                                                              : aec::DialogAnswer::No;
             });
         std::cout << "Project explorer. Type help for the commands, quit to leave.\n";
         interpreter.execute("tree");
@@ -148,12 +92,21 @@ int main(int argc, char** argv)
 {
     try
     {
-        const std::optional<ShellOptions> parsed = parseOptions(argc, argv);
-        return parsed ? runShell(*parsed) : 0;
-    }
-    catch (const boost::program_options::error& failure)
-    {
-        std::cerr << "error: " << failure.what() << '\n' << usage << '\n';
+        // Windows hands a program its arguments in the ANSI code page; these are UTF-8 on every
+        // platform, as the rest of the shell's text is.
+        const boost::nowide::args utf8Arguments(argc, argv);
+        aec::shell::CShellTerminal terminal;
+        std::optional<ShellOptions> parsed;
+        try
+        {
+            parsed = aec::shell::parseShellOptions(argc, argv, std::cout);
+        }
+        catch (const common::EException& failure)
+        {
+            std::cerr << "error: " << failure.what() << '\n' << aec::shell::shellUsage << '\n';
+            return 2;
+        }
+        return parsed ? runShell(*parsed, terminal) : 0;
     }
     catch (const std::exception& failure)
     {

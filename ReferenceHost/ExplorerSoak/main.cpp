@@ -4,16 +4,16 @@
 
 #include "Common/AssertionViolation.h"
 #include "Common/Exception.h"
+#include "ExplorerShell/ShellOptions.h"
 #include "ExplorerSoak/SoakRun.h"
 
-#include <boost/program_options.hpp>
+#include <CLI/CLI.hpp>
 #include <cstdint>
 #include <iostream>
+#include <string>
 
 namespace
 {
-
-namespace options = boost::program_options;
 
 constexpr const char* usage = "Usage: explorer-soak [--seed N] [--actions N] [--trace]";
 
@@ -21,33 +21,38 @@ constexpr const char* usage = "Usage: explorer-soak [--seed N] [--actions N] [--
 
 int main(int argc, char** argv)
 {
-    options::options_description description("Options");
-    description.add_options()("help,h", "show this help")(
-        "seed", options::value<std::uint64_t>()->default_value(1), "seed of the actions and the identifiers")(
-        "actions", options::value<std::size_t>()->default_value(1000),
-        "how many user actions to run")("trace", "print every command line and the shell's answer");
-    options::variables_map values;
+    CLI::App app("", "explorer-soak");
+    app.allow_windows_style_options(false);
+    app.set_help_flag("-h,--help", "show this help");
+    std::string seedText = "1";
+    std::string actionsText = "1000";
+    bool traced = false;
+    app.add_option("--seed", seedText, "seed of the actions and the identifiers (default 1)")->type_name("N");
+    app.add_option("--actions", actionsText, "how many user actions to run (default 1000)")->type_name("N");
+    app.add_flag("--trace", traced, "print every command line and the shell's answer");
+    std::uint64_t seed = 0;
+    std::uint64_t actions = 0;
     try
     {
-        options::store(options::parse_command_line(argc, argv, description), values);
-        options::notify(values);
+        app.parse(argc, argv);
+        seed = aec::shell::parseWholeNumberOption("--seed", seedText);
+        actions = aec::shell::parseWholeNumberOption("--actions", actionsText);
     }
-    catch (const options::error& error)
+    catch (const CLI::CallForHelp&)
+    {
+        std::cout << app.help();
+        return 0;
+    }
+    // CLI11's errors, and common::EException for numbers that do not parse.
+    catch (const std::exception& error)
     {
         std::cerr << "explorer-soak: " << error.what() << '\n' << usage << '\n';
         return 2;
     }
-    if (values.count("help") != 0)
-    {
-        std::cout << usage << "\n\n" << description << '\n';
-        return 0;
-    }
 
-    const auto seed = values["seed"].as<std::uint64_t>();
-    const auto actions = values["actions"].as<std::size_t>();
     try
     {
-        aec::soak::CSoakRun soak(seed, values.count("trace") != 0 ? &std::cout : nullptr);
+        aec::soak::CSoakRun soak(seed, traced ? &std::cout : nullptr);
         const aec::soak::SoakReport report = soak.run(actions);
         std::cout << "explorer-soak: seed " << seed << ", " << report.actions << " actions, "
                   << report.commandLines << " command lines (" << report.refusedLines

@@ -1,7 +1,8 @@
 # Runs one end-to-end script through explorer-shell and checks its transcript.
 #
 # Variables: SHELL (the program), SCRIPT, EXPECTED (the golden transcript), DATA_DIR (files the
-# script reads, copied into WORK_DIR, where the shell runs), and UPDATE=ON to rewrite EXPECTED.
+# script reads, copied into WORK_DIR, where the shell runs), UPDATE=ON to rewrite EXPECTED, and
+# EMULATOR, what runs a cross-built SHELL (Wine for the Windows build).
 #
 # Directives, as comment lines of the script:
 #   # exit: N        the status the shell must end with (default 0)
@@ -22,7 +23,7 @@ set(expected_status 0)
 set(feed script)
 set(arguments "")
 set(same_dumps OFF)
-file(STRINGS ${SCRIPT} directives REGEX "^# (exit|input|args):|^# same-dumps$")
+file(STRINGS ${SCRIPT} directives ENCODING UTF-8 REGEX "^# (exit|input|args):|^# same-dumps$")
 foreach(directive IN LISTS directives)
     if(directive MATCHES "^# exit: ([0-9]+)$")
         set(expected_status ${CMAKE_MATCH_1})
@@ -44,7 +45,7 @@ function(run_shell transcript)
     file(REMOVE_RECURSE ${WORK_DIR})
     file(MAKE_DIRECTORY ${WORK_DIR})
     file(COPY ${DATA_DIR}/ DESTINATION ${WORK_DIR})
-    set(merged sh -c "exec \"$0\" \"$@\" 2>&1" ${SHELL} ${arguments} --seed 7)
+    set(merged sh -c "exec \"$0\" \"$@\" 2>&1" ${EMULATOR} ${SHELL} ${arguments} --seed 7)
     if(feed STREQUAL "stdin")
         execute_process(COMMAND ${merged}
             INPUT_FILE ${SCRIPT} WORKING_DIRECTORY ${WORK_DIR}
@@ -57,6 +58,14 @@ function(run_shell transcript)
     if(NOT status STREQUAL expected_status)
         message(FATAL_ERROR "explorer-shell ended with status ${status}, not ${expected_status}.\n"
                             "output:\n${output}")
+    endif()
+    # The Windows program ends its lines with CR LF, and the reason the system gives for a failed
+    # file operation is in its own words (Wine's or Windows'); the transcripts are the same
+    # otherwise.
+    if(EMULATOR)
+        string(REPLACE "\r\n" "\n" output "${output}")
+        string(REGEX REPLACE "\\((Path not found|The system cannot find the path specified)\\.?\\)"
+                             "(No such file or directory)" output "${output}")
     endif()
     if(output MATCHES "internal error")
         message(FATAL_ERROR "explorer-shell showed an internal error:\n${output}")
