@@ -63,6 +63,8 @@ TEST_F(GroupingButtonHandlerTest, CriterionZeroClearsTheGroupingAndAnyOtherTextI
     choose(criterionButton, L"topic-key");
     EXPECT_EQ(model.getGroupingKeyText(), L"topic-key");
     EXPECT_EQ((gui.buttonValues[{panel, criterionButton}]), L"topic-key");
+    // The button tells its observers (the desktop redraws it) of the value chosen.
+    EXPECT_TRUE((gui.buttonValueNotified[{panel, criterionButton}]));
 
     choose(criterionButton, L"0");
     EXPECT_EQ(model.getGroupingKeyText(), std::nullopt);
@@ -79,6 +81,7 @@ TEST_F(GroupingButtonHandlerTest, SortOrderTakesOnlyOneOrTwo)
     choose(sortButton, L"2");
     EXPECT_EQ(model.getSortOrder(), 2);
     EXPECT_EQ((gui.buttonValues[{panel, sortButton}]), L"2");
+    EXPECT_TRUE((gui.buttonValueNotified[{panel, sortButton}]));
     choose(sortButton, L"1");
     EXPECT_EQ(model.getSortOrder(), 1);
     EXPECT_EQ((gui.buttonValues[{panel, sortButton}]), L"1");
@@ -94,12 +97,18 @@ TEST_F(GroupingButtonHandlerTest, SortOrderTakesOnlyOneOrTwo)
     EXPECT_NE(rejected, nullGui);
 }
 
-TEST_F(GroupingButtonHandlerTest, LetsGoOfTheButtonsAndTheModelWhenDestroyedOrNotBuilt)
+TEST_F(GroupingButtonHandlerTest, LetsGoOfTheButtonsAndTheModelWhenReleasedDestroyedOrNotBuilt)
 {
     EXPECT_THROW(makeHandler(nullptr), common::EPreconditionViolation);
     EXPECT_TRUE(model.changedSignal().empty());
 
     makeHandler(&gui).reset();
+    EXPECT_TRUE(gui.buttonCallbacks.empty());
+    EXPECT_TRUE(model.changedSignal().empty());
+
+    // Released before it dies, the handler no longer follows the model and the buttons are free.
+    const auto released = makeHandler(&gui);
+    released->release();
     EXPECT_TRUE(gui.buttonCallbacks.empty());
     EXPECT_TRUE(model.changedSignal().empty());
 }

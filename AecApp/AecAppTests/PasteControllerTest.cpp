@@ -55,7 +55,7 @@ TEST(PasteControllerTest, EnablesPasteExactlyWhileTheClipboardHoldsItsFormat)
     EXPECT_EQ(gui.enabledCommands.size(), 1u);
 }
 
-TEST(PasteControllerTest, PasteCommandRequestsAPasteWhileTheControllerLives)
+TEST(PasteControllerTest, PasteCommandRequestsAPasteUntilTheControllerIsReleasedOrGone)
 {
     RecordingGui gui;
     UntouchedRegistry registry;
@@ -63,6 +63,7 @@ TEST(PasteControllerTest, PasteCommandRequestsAPasteWhileTheControllerLives)
     {
         aec::CPasteController controller(&registry, gui, entitiesFormat);
         EXPECT_EQ(controller.getRegistry(), &registry);
+        EXPECT_EQ(gui.handlerVariants.at(pasteCommand), 0);
         const boost::signals2::scoped_connection connection =
             controller.pasteRequestedSignal().connect([&requests] { ++requests; });
         gui.runCommand(pasteCommand);
@@ -70,6 +71,10 @@ TEST(PasteControllerTest, PasteCommandRequestsAPasteWhileTheControllerLives)
         EXPECT_EQ(requests, 2);
     }
     ASSERT_FALSE(gui.handlers.contains(pasteCommand));
+
+    aec::CPasteController released(&registry, gui, entitiesFormat);
+    released.release();
+    EXPECT_FALSE(gui.handlers.contains(pasteCommand));
 }
 
 } // namespace

@@ -25,8 +25,16 @@ public:
 
     void setCommandAvailable(int, bool) override {}
     void setCommandClaimed(int, bool) override {}
-    void addCommandHandler(int command, int, CommandHandler handler) override { handlers[command] = handler; }
-    void removeCommandHandler(int command, int) override { handlers.erase(command); }
+    void addCommandHandler(int command, int variant, CommandHandler handler) override
+    {
+        handlers[command] = handler;
+        handlerVariants[command] = variant;
+    }
+    void removeCommandHandler(int command, int variant) override
+    {
+        if (handlerVariants.contains(command) && handlerVariants.at(command) == variant)
+            handlers.erase(command);
+    }
     void setContextMenuHandler(ContextMenuHandler) override {}
     void clearContextMenuHandler() override {}
     void enableCommand(int command, bool enabled) override { enabledCommands[command] = enabled; }
@@ -57,9 +65,10 @@ public:
     {
         buttonItems[{panel, button}].push_back({value, label, enabled});
     }
-    void setButtonValue(std::uint32_t panel, std::uint32_t button, const std::wstring& value, bool) override
+    void setButtonValue(std::uint32_t panel, std::uint32_t button, const std::wstring& value, bool notify) override
     {
         buttonValues[{panel, button}] = value;
+        buttonValueNotified[{panel, button}] = notify;
     }
     void registerButtonCallback(std::uint32_t panel, std::uint32_t button, ButtonCallback callback) override
     {
@@ -76,12 +85,15 @@ public:
     void releaseDocumentClosing() override {}
 
     std::map<int, CommandHandler> handlers;
+    std::map<int, int> handlerVariants;
     std::map<int, bool> enabledCommands;
     std::vector<int> commandsRun;
     std::vector<std::pair<std::vector<aec::CContextMenuItem>, aec::MbCartPoint>> shownMenus;
     std::vector<Element> resets;
     std::map<Element, std::vector<ButtonItem>> buttonItems;
     std::map<Element, std::wstring> buttonValues;
+    // Whether the last value set asked the button to tell its observers.
+    std::map<Element, bool> buttonValueNotified;
     std::map<Element, ButtonCallback> buttonCallbacks;
 };
 

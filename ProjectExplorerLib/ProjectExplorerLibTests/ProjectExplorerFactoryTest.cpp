@@ -75,8 +75,10 @@ TEST_F(ProjectExplorerFactoryTest, RestoresStoredStateAndSkipsWhatNoLongerApplie
     const common::UUID sheetsId = groupInfo(L"Sheets").id;
     aec::ProjectExplorerState stored;
     stored[sheetsId] = storedGrouping(PropertyAssignmentKey::topic(), 2, true);
-    stored[sheetsId].subgroupExpanded = {{common::makeNameBasedUuid(sheetsId, L"Level 2"), true},
-                                         {common::makeNameBasedUuid(sheetsId, L"Level 9"), true}};
+    // The one unfolded subgroup comes last in the list, so a search that stops early misses it.
+    stored[sheetsId].subgroupExpanded = {{common::makeNameBasedUuid(sheetsId, L"Level 1"), true},
+                                         {common::makeNameBasedUuid(sheetsId, L"Level 2"), false},
+                                         {common::makeNameBasedUuid(sheetsId, L"Level 9"), false}};
     // Images cannot be grouped by topic: only its key is skipped.
     stored[groupInfo(L"Images").id] = storedGrouping(PropertyAssignmentKey::topic(), 2, true);
     stored[common::makeNameBasedUuid(sheetsId, L"no group")] = storedGrouping(PropertyAssignmentKey::topic(), 1, true);
@@ -87,8 +89,8 @@ TEST_F(ProjectExplorerFactoryTest, RestoresStoredStateAndSkipsWhatNoLongerApplie
     aec::IProjectExplorerGroup& sheets = named(explorer->getGroups(), L"Sheets");
     EXPECT_EQ(subgroupNames(sheets), (std::vector<std::wstring>{L"Level 2", L"Level 1"}));
     EXPECT_TRUE(sheets.isExpanded());
-    EXPECT_TRUE(named(sheets.getSubgroups(), L"Level 2").isExpanded());
-    EXPECT_FALSE(named(sheets.getSubgroups(), L"Level 1").isExpanded());
+    EXPECT_FALSE(named(sheets.getSubgroups(), L"Level 2").isExpanded());
+    EXPECT_TRUE(named(sheets.getSubgroups(), L"Level 1").isExpanded());
     aec::IProjectExplorerGroup& images = named(explorer->getGroups(), L"Images");
     EXPECT_EQ(images.getGroupingModel().getGroupingKey(), PropertyAssignmentKey::noGrouping());
     EXPECT_EQ(images.getGroupingModel().getSortOrder(), 2);

@@ -69,6 +69,8 @@ TEST_F(ProjectExplorerRootActivityTest, ActivatesOnceAndDeactivationReleasesWhat
     EXPECT_TRUE(gui.hasContextMenuHandler());
     EXPECT_TRUE(gui.isCommandEnabled(aec::commands::paste));
     EXPECT_TRUE(followsClipboard());
+    EXPECT_TRUE(gui.isCommandClaimed(83));
+    EXPECT_TRUE(gui.isCommandClaimed(84));
 
     activity->activate();
     EXPECT_TRUE(followsClipboard());
@@ -81,6 +83,9 @@ TEST_F(ProjectExplorerRootActivityTest, ActivatesOnceAndDeactivationReleasesWhat
         expectHandlers(lifelongCommands, true);
         EXPECT_FALSE(gui.hasContextMenuHandler());
         EXPECT_FALSE(followsClipboard());
+        // Of the claims only 83's is given back.
+        EXPECT_FALSE(gui.isCommandClaimed(83));
+        EXPECT_TRUE(gui.isCommandClaimed(84));
 
         activity->activate();
         activity->activate();

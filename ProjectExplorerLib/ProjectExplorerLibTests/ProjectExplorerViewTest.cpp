@@ -107,6 +107,10 @@ TEST_F(ProjectExplorerViewTest, TakesTheGuiOnceNeverNullAndMakesActivitiesOnlyAf
     EXPECT_FALSE(secondGui.hasDocumentActivatedRegistration());
     EXPECT_NE(view->createActivity(), nullptr);
 
+    // The panel has nothing to draw, print or save.
+    EXPECT_FALSE(view->hasDrawing());
+    EXPECT_FALSE(view->isModified());
+    EXPECT_FALSE(view->canPrint());
     EXPECT_EQ(siteFile(violationSite<common::ENotImplemented>([&] { view->print(); })), viewFile);
 }
 

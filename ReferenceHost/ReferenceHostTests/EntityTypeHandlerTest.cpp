@@ -80,7 +80,7 @@ TEST(EntityTypeHandlerTest, RenameRefusesBlankNamesAndNamesOfOtherEntities)
     // One name to the user is one name: case and leading zeros do not tell names apart, and the
     // message names the material that has it, as it is spelled.
     EXPECT_EQ(refusal(L" bEECH "), "There is already a material named \"Beech\"; choose another name.");
-    for (const std::wstring blank : {L"", L" \t", L"\u200B\u00A0", L"\x01\x02"})
+    for (const std::wstring blank : {L"", L" \t", L"\u200B\u00A0", L"\x01\x02", L"\u202A\u00AD\u2064\uFEFF"})
         EXPECT_NE(refusal(blank).find("A material needs a name"), std::string::npos);
     EXPECT_NE(refusal(L"Oak\nfloor").find("control character"), std::string::npos);
     EXPECT_EQ(project.canonicalDump(), before);

@@ -52,6 +52,12 @@ TEST(SampleProjectTest, HasTheMixTheExplorerNeedsToShow)
 
     const auto sheets = namesOf(*project, EntityCollection::Sheets);
     EXPECT_TRUE(sheets.contains(L"Sheet A-101") && sheets.contains(L"Sheet A-20"));
+    // Sheets differ in a free-form property, for the property editor to show side by side.
+    std::set<std::wstring> scales;
+    for (const EntityId& id : project->getEntities(EntityCollection::Sheets))
+        if (const auto scale = project->findEntity(id)->getProperty("scale"))
+            scales.insert(*scale);
+    EXPECT_GE(scales.size(), 2u);
     const auto topics = namesOf(*project, EntityCollection::Topics);
     EXPECT_TRUE(topics.contains(L"level 2") && topics.contains(L"Level 10"));
     EXPECT_FALSE(project->getUndoHistory().canUndo());

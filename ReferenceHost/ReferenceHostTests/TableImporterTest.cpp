@@ -276,6 +276,15 @@ TEST_F(TableImporterTest, XlsxWorkbooksGiveTheirFirstWorksheetAsShown)
              R"(</row><row r="3" s="1"/><row r="9"><c r="A9" s="2"/></row></sheetData></worksheet>)",
              "<sst/>"),
          Cells{{"7"}}, Row{"Mark"}, "XLSX, sheet \"Sheet1\", header row, 1 row, 1 column", ""},
+        {"gaps between cells, a formula and a phonetic guide", "gaps.xlsx",
+         CSpreadsheetWriter::xlsxAround(
+             R"(<worksheet><sheetData><row r="1"><c r="A1" t="inlineStr"><is><t>Mark</t><rPh><t>ma-ku</t>)"
+             R"(</rPh></is></c><c r="C1" t="inlineStr"><is><t>Sum</t></is></c></row><row r="2"><c r="A2">)"
+             R"(<v>1</v></c><c r="C2"><f>A2+1</f><v>2</v></c><c r="D2"><v>3</v></c><c r="F2"><v>5</v></c>)"
+             R"(</row></sheetData></worksheet>)",
+             "<sst/>"),
+         Cells{{"1", "", "2", "3", "", "5"}}, Row{"Mark", "", "Sum", "", "", ""},
+         "XLSX, sheet \"Sheet1\", header row, 1 row, 6 columns", ""},
         {"cut short",
          "cut.xlsx",
          whole.substr(0, whole.size() / 2),

@@ -1,5 +1,6 @@
 #include "AecModel/OperationGuardSource.h"
 #include "AecModel/Project.h"
+#include "AecModel/UndoStepLabel.h"
 
 #include "aec/EditCommand.h"
 #include "aec/OperationGuard.h"
@@ -181,6 +182,36 @@ TEST_F(TransactionTest, HistoryKeepsStepsInOrderAndLosesRedoOnNewWork)
 
     project.renameEntity(sheets[1], L"Direct");
     EXPECT_FALSE(history.canUndo()) << "a change outside transactions invalidates every step";
+}
+
+// The history shows a step by what the user did to what, not by the transaction's name.
+TEST_F(TransactionTest, StepLabelsNameWhatTheUserDid)
+{
+    const auto label = [this](const std::string& name, const auto& change)
+    {
+        auto transaction = open(name);
+        change();
+        transaction->commit();
+        return undoStepLabel(project.getUndoHistory().getUndoSteps().back(), project);
+    };
+    EXPECT_EQ(label("Edit", [this] { project.setEntityProperty(material, "density", L"1900"); }),
+              "Edit the properties of material “Brick”");
+    // Naming and filling in an entity that the step made is part of making it.
+    EXPECT_EQ(label("Paste",
+                    [this]
+                    {
+                        const EntityId made = project.addEntity(EntityCollection::Materials, L"Oak");
+                        project.renameEntity(made, L"Oak 2");
+                        project.setEntityProperty(made, "density", L"700");
+                    }),
+              "Paste material “Oak 2”");
+    EXPECT_EQ(label("Move",
+                    [this]
+                    {
+                        project.setEntityTopic(sheets[0], otherTopic);
+                        project.setEntityTopic(sheets[1], otherTopic);
+                    }),
+              "Change the topic of 2 entities");
 }
 
 TEST_F(TransactionTest, EditingServiceMakesItsOwnRenameStep)
