@@ -29,7 +29,9 @@ constexpr std::size_t sampledRows = 50;
 // nothing.
 constexpr std::size_t recordsPerProgress = 4096;
 
-std::string readFile(const std::filesystem::path& file)
+// The progress hears first that the read begins, once the file is open: a host shows its progress
+// from then on, and what happens to the file from then on is caught here.
+std::string readFile(const std::filesystem::path& file, const TableReadProgress& progress)
 {
     std::ifstream stream = openInputFile(file);
     std::error_code error;
@@ -38,9 +40,13 @@ std::string readFile(const std::filesystem::path& file)
     // Read in one go into a buffer of the file's size: no growth, no second copy.
     if (!error)
         bytes.resize(static_cast<std::size_t>(size));
+    if (progress)
+        progress(0.0);
     stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     if (stream.gcount() != static_cast<std::streamsize>(bytes.size()) || stream.bad())
         throw common::EException("the file cannot be read to its end; it may have been moved or changed");
+    if (stream.peek() != std::ifstream::traits_type::eof())
+        throw common::EException("the file grew while it was read; import it once it is written");
     return bytes;
 }
 
@@ -129,7 +135,7 @@ CTableFileReader::Result CTableFileReader::read(const std::filesystem::path& fil
                                                 const TableReadChoices& choices, std::size_t rowLimit,
                                                 const TableReadProgress& progress)
 {
-    return readBytes(readFile(file), choices, rowLimit, progress);
+    return readBytes(readFile(file, progress), choices, rowLimit, progress);
 }
 
 CTableFileReader::Result CTableFileReader::readBytes(std::string bytes, const TableReadChoices& choices,
