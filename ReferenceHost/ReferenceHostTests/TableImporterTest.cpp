@@ -263,7 +263,26 @@ TEST_F(TableImporterTest, XlsxWorkbooksGiveTheirFirstWorksheetAsShown)
     encrypted.add("xl/workbook.xml", R"(<workbook><sheets><sheet name="S" id="x"/></sheets></workbook>)");
     encrypted.add("xl/worksheets/sheet1.xml", "<worksheet/>", "password");
     const std::string whole = CSpreadsheetWriter::xlsx(workbook);
+    // Cell styles 1 to 4 are a date, a format of the workbook's own, a percentage and thousands;
+    // the cell style formats before them are not cell styles.
+    const std::string styles =
+        R"(<styleSheet><numFmts><numFmt numFmtId="164" formatCode="0.0&quot; m²&quot;"/></numFmts>)"
+        R"(<cellStyleXfs><xf numFmtId="10"/></cellStyleXfs><cellXfs><xf numFmtId="0"/><xf numFmtId="14"/>)"
+        R"(<xf numFmtId="164"/><xf numFmtId="10"/><xf numFmtId="3"/></cellXfs></styleSheet>)";
+    const std::string formattedRow =
+        R"(<worksheet><sheetData><row><c s="1"><v>45000</v></c><c s="2"><v>12.345</v></c>)"
+        R"(<c s="3"><v>0.125</v></c><c s="4"><v>1234567</v></c><c s="9"><v>0.30000000000000004</v></c>)"
+        R"(<c s="1" t="s"><v>0</v></c></row></sheetData></worksheet>)";
+    const std::string sharedStrings = "<sst><si><t>45000</t></si></sst>";
     check({
+        {"numbers as their cell styles show them", "styled.xlsx",
+         CSpreadsheetWriter::xlsxAround(formattedRow, sharedStrings, styles),
+         Cells{{"2023-03-15", "12.3 m²", "12.50%", "1,234,567", "0.3", "45000"}}, {},
+         "XLSX, sheet \"Sheet1\", no header row, 1 row, 6 columns", ""},
+        {"dates counted from 1904", "1904.xlsx",
+         CSpreadsheetWriter::xlsxAround(formattedRow, sharedStrings, styles, true),
+         Cells{{"2027-03-16", "12.3 m²", "12.50%", "1,234,567", "0.3", "45000"}}, {},
+         "XLSX, sheet \"Sheet1\", no header row, 1 row, 6 columns", ""},
         {"shared strings", "rooms.xlsx", whole, cells, {"Room", "Area", "Level"}, report, ""},
         {"inline strings",
          "inline.xlsx",
