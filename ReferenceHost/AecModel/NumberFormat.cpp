@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <chrono>
 #include <cmath>
 #include <fmt/format.h>
@@ -14,9 +15,9 @@ namespace aec::model
 namespace
 {
 
-constexpr std::array<std::string_view, 12> monthNames{"January", "February", "March",     "April",
-                                                       "May",     "June",     "July",      "August",
-                                                       "September", "October", "November", "December"};
+constexpr std::array<std::string_view, 12> monthNames{"January",   "February", "March",    "April",
+                                                      "May",       "June",     "July",     "August",
+                                                      "September", "October",  "November", "December"};
 constexpr std::array<std::string_view, 7> dayNames{"Sunday",   "Monday", "Tuesday", "Wednesday",
                                                    "Thursday", "Friday", "Saturday"};
 // The last day a spreadsheet shows as a date: 9999-12-31.
@@ -25,9 +26,12 @@ constexpr double lastDateSerial = 2958466.0;
 bool startsWithNoCase(std::string_view text, std::string_view word)
 {
     return text.size() >= word.size() &&
-           std::equal(word.begin(), word.end(), text.begin(), [](char left, char right)
-                      { return std::tolower(static_cast<unsigned char>(left)) ==
-                               std::tolower(static_cast<unsigned char>(right)); });
+           std::equal(word.begin(), word.end(), text.begin(),
+                      [](char left, char right)
+                      {
+                          return std::tolower(static_cast<unsigned char>(left)) ==
+                                 std::tolower(static_cast<unsigned char>(right));
+                      });
 }
 
 char lower(char character)
@@ -70,14 +74,18 @@ std::vector<std::string_view> splitSections(std::string_view code)
     return sections;
 }
 
-// The number's magnitude to so many decimals, as its integer digits (none for zero) and its
+// The finite number's magnitude to so many decimals, as its integer digits (none for zero) and its
 // decimals. Rounded half away from zero on the decimal digits a spreadsheet keeps (15 significant
 // ones), so that 2.675 shows as 2.68 although its binary value is a little less.
 std::pair<std::string, std::string> fixedDigits(double value, int decimals)
 {
-    const std::string scientific = fmt::format("{:.14e}", std::fabs(value));
+    const std::string scientific = fmt::format("{:.14e}", std::fabs(value)); // d.dddddddddddddde±x
     std::string digits = scientific.substr(0, 1) + scientific.substr(2, 14);
-    int pointAt = std::stoi(scientific.substr(scientific.find('e') + 1)) + 1;
+    const std::string_view exponentText = std::string_view(scientific).substr(scientific.find('e') + 1);
+    int pointAt = 0;
+    std::from_chars(exponentText.data() + (exponentText.starts_with('+') ? 1 : 0),
+                    exponentText.data() + exponentText.size(), pointAt);
+    ++pointAt;
     if (pointAt < 0)
     {
         digits.insert(0, static_cast<std::size_t>(-pointAt), '0');
@@ -202,7 +210,10 @@ CNumberFormat::Section CNumberFormat::parseSection(std::string_view code)
         tokens.back().text += text;
     };
     const auto after = [&tokens](std::initializer_list<Kind> kinds)
-    { return std::ranges::any_of(tokens, [kinds](const Token& token) { return std::ranges::count(kinds, token.kind) > 0; }); };
+    {
+        return std::ranges::any_of(tokens, [kinds](const Token& token)
+                                   { return std::ranges::count(kinds, token.kind) > 0; });
+    };
 
     for (std::size_t at = 0; at < code.size();)
     {
@@ -230,15 +241,20 @@ CNumberFormat::Section CNumberFormat::parseSection(std::string_view code)
             const std::string_view inside = code.substr(at + 1, end - at - 1);
             at = end + 1;
             const auto elapsed = [inside](char letter)
-            { return !inside.empty() && std::ranges::all_of(inside, [letter](char c) { return lower(c) == letter; }); };
+            {
+                return !inside.empty() &&
+                       std::ranges::all_of(inside, [letter](char c) { return lower(c) == letter; });
+            };
+            // Elapsed times pad to as many digits as the brackets hold letters; a few are plenty.
+            const int letters = static_cast<int>(std::min<std::size_t>(inside.size(), 9));
             if (inside.starts_with('$'))
                 literal(inside.substr(1, inside.find('-') - 1)); // [$€-407]: the symbol, then a locale
             else if (elapsed('h'))
-                tokens.push_back({Kind::ElapsedHours, "", static_cast<int>(inside.size())});
+                tokens.push_back({Kind::ElapsedHours, "", letters});
             else if (elapsed('m'))
-                tokens.push_back({Kind::ElapsedMinutes, "", static_cast<int>(inside.size())});
+                tokens.push_back({Kind::ElapsedMinutes, "", letters});
             else if (elapsed('s'))
-                tokens.push_back({Kind::ElapsedSeconds, "", static_cast<int>(inside.size())});
+                tokens.push_back({Kind::ElapsedSeconds, "", letters});
             // Colours and conditions change nothing in the text.
         }
         else if (isPlaceholder(character))
@@ -246,7 +262,8 @@ CNumberFormat::Section CNumberFormat::parseSection(std::string_view code)
             tokens.push_back({Kind::Digit, std::string(1, character), 0});
             ++at;
         }
-        else if (character == '.' && after({Kind::Second, Kind::ElapsedSeconds}) && rest.substr(1).starts_with('0'))
+        else if (character == '.' && after({Kind::Second, Kind::ElapsedSeconds}) &&
+                 rest.substr(1).starts_with('0'))
         {
             const std::size_t zeros = std::min(rest.find_first_not_of('0', 1), rest.size()) - 1;
             section.subSecondDigits = static_cast<int>(std::min<std::size_t>(zeros, 3));
@@ -274,7 +291,8 @@ CNumberFormat::Section CNumberFormat::parseSection(std::string_view code)
             tokens.push_back({Kind::Percent, "%", 0});
             ++at;
         }
-        else if (lower(character) == 'e' && (rest.substr(1).starts_with('+') || rest.substr(1).starts_with('-')))
+        else if (lower(character) == 'e' &&
+                 (rest.substr(1).starts_with('+') || rest.substr(1).starts_with('-')))
         {
             tokens.push_back({Kind::Exponent, std::string(rest.substr(0, 2)), 0});
             at += 2;
@@ -312,19 +330,24 @@ CNumberFormat::Section CNumberFormat::parseSection(std::string_view code)
     }
 
     // "m" and "mm" are minutes right after an hour or right before a second, months otherwise.
-    const auto isTime = [](const Token& token) { return token.kind != Kind::Literal; };
+    const auto isTime = [](const Token& token)
+    {
+        return token.kind != Kind::Literal;
+    };
     for (auto token = tokens.begin(); token != tokens.end(); ++token)
     {
         if (token->kind != Kind::Month || token->count > 2)
             continue;
         const auto previous = std::find_if(std::make_reverse_iterator(token), tokens.rend(), isTime);
         const auto next = std::find_if(token + 1, tokens.end(), isTime);
-        if ((previous != tokens.rend() && (previous->kind == Kind::Hour || previous->kind == Kind::ElapsedHours)) ||
+        if ((previous != tokens.rend() &&
+             (previous->kind == Kind::Hour || previous->kind == Kind::ElapsedHours)) ||
             (next != tokens.end() && (next->kind == Kind::Second || next->kind == Kind::ElapsedSeconds)))
             token->kind = Kind::Minute;
     }
-    section.isDate = std::ranges::any_of(tokens, [](const Token& token)
-                                         { return token.kind >= Kind::Year && token.kind <= Kind::ElapsedSeconds; });
+    section.isDate =
+        std::ranges::any_of(tokens, [](const Token& token)
+                            { return token.kind >= Kind::Year && token.kind <= Kind::ElapsedSeconds; });
     return section;
 }
 
@@ -359,6 +382,8 @@ std::string CNumberFormat::formatNumber(const Section& section, double value) co
     for (const Token& token : tokens)
         scaled *= token.kind == Kind::Percent ? 100.0 : 1.0;
     scaled /= std::pow(1000.0, section.scaling);
+    if (!std::isfinite(scaled))
+        return general(value);
 
     // The placeholders of the integer part, the decimals and the exponent.
     std::vector<std::string> integerPlaces, decimalPlaces, exponentPlaces;
@@ -391,22 +416,30 @@ std::string CNumberFormat::formatNumber(const Section& section, double value) co
         };
         const int magnitude = scaled == 0 ? 0 : static_cast<int>(std::floor(std::log10(scaled)));
         exponent = scaled == 0 ? 0 : exponentOf(magnitude);
-        std::tie(integer, fraction) = fixedDigits(scaled / std::pow(10.0, exponent), decimals);
+        // Scaled in two steps: 10 to the power of the exponent alone leaves the doubles' range for
+        // the smallest numbers.
+        const auto mantissa = [scaled](int power)
+        {
+            return scaled / std::pow(10.0, power / 2) / std::pow(10.0, power - power / 2);
+        };
+        std::tie(integer, fraction) = fixedDigits(mantissa(exponent), decimals);
         if (scaled != 0 && static_cast<int>(integer.size()) > places)
         {
             exponent = exponentOf(magnitude + 1);
-            std::tie(integer, fraction) = fixedDigits(scaled / std::pow(10.0, exponent), decimals);
+            std::tie(integer, fraction) = fixedDigits(mantissa(exponent), decimals);
         }
     }
 
     const std::vector<std::string> integerShown =
         fillFromRight(section.grouping ? grouped(integer) : integer, integerPlaces);
-    const std::vector<std::string> exponentShown = fillFromRight(std::to_string(std::abs(exponent)), exponentPlaces);
+    const std::vector<std::string> exponentShown =
+        fillFromRight(std::to_string(std::abs(exponent)), exponentPlaces);
     // Decimals under # or ? that are trailing zeros are left out or shown as spaces.
     std::vector<std::string> decimalShown;
     for (const char digit : fraction)
         decimalShown.emplace_back(1, digit);
-    for (std::size_t index = decimalShown.size(); index-- > 0 && decimalPlaces[index] != "0" && decimalShown[index] == "0";)
+    for (std::size_t index = decimalShown.size();
+         index-- > 0 && decimalPlaces[index] != "0" && decimalShown[index] == "0";)
         decimalShown[index] = padding(decimalPlaces[index]);
 
     std::string text;
@@ -430,7 +463,10 @@ std::string CNumberFormat::formatNumber(const Section& section, double value) co
             inDecimals = true;
             break;
         case Kind::Exponent:
-            text += fmt::format("{}{}", token.text.front(), exponent < 0 ? "-" : *exponentSign == "+" ? "+" : "");
+            text += fmt::format("{}{}", token.text.front(),
+                                exponent < 0           ? "-"
+                                : *exponentSign == "+" ? "+"
+                                                       : "");
             inExponent = true;
             break;
         case Kind::General:
@@ -452,7 +488,8 @@ std::string CNumberFormat::formatDate(const Section& section, double value) cons
     std::int64_t unitsPerSecond = 1;
     for (int digit = 0; digit < section.subSecondDigits; ++digit)
         unitsPerSecond *= 10;
-    const auto units = static_cast<std::int64_t>(std::llround(value * 86400.0 * static_cast<double>(unitsPerSecond)));
+    const auto units =
+        static_cast<std::int64_t>(std::llround(value * 86400.0 * static_cast<double>(unitsPerSecond)));
     const std::int64_t dayNumber = units / (86400 * unitsPerSecond);
     const std::int64_t seconds = units % (86400 * unitsPerSecond) / unitsPerSecond;
     const std::int64_t subSecond = units % unitsPerSecond;
@@ -472,9 +509,13 @@ std::string CNumberFormat::formatDate(const Section& section, double value) cons
     const unsigned monthNumber = leapDay1900 ? 2 : static_cast<unsigned>(date.month());
     const unsigned dayOfMonth = leapDay1900 ? 29 : static_cast<unsigned>(date.day());
     const std::string_view weekdayName = dayNames[weekday(day).c_encoding()];
-    const bool twelveHours = std::ranges::any_of(section.tokens, [](const Token& token) { return token.kind == Kind::AmPm; });
+    const bool twelveHours =
+        std::ranges::any_of(section.tokens, [](const Token& token) { return token.kind == Kind::AmPm; });
     const std::int64_t hourShown = twelveHours ? (hour % 12 == 0 ? 12 : hour % 12) : hour;
-    const auto number = [](std::int64_t shown, int count) { return fmt::format("{:0{}}", shown, count >= 2 ? 2 : 1); };
+    const auto number = [](std::int64_t shown, int count)
+    {
+        return fmt::format("{:0{}}", shown, count >= 2 ? 2 : 1);
+    };
 
     std::string text;
     for (const Token& token : section.tokens)
@@ -482,7 +523,8 @@ std::string CNumberFormat::formatDate(const Section& section, double value) cons
         switch (token.kind)
         {
         case Kind::Year:
-            text += token.count <= 2 ? fmt::format("{:02}", yearNumber % 100) : fmt::format("{:04}", yearNumber);
+            text +=
+                token.count <= 2 ? fmt::format("{:02}", yearNumber % 100) : fmt::format("{:04}", yearNumber);
             break;
         case Kind::Month:
             text += token.count <= 2   ? number(monthNumber, token.count)

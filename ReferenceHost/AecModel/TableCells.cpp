@@ -126,7 +126,8 @@ void CTableCells::appendRowJson(std::string& json, std::size_t row) const
         // nlohmann's serializer does the escaping; the cell is copied once, briefly. The readers give
         // valid UTF-8, but a value that is saved must never fail to be: a stray byte would become
         // U+FFFD rather than an error.
-        json += nlohmann::json(cell(row, column)).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+        json +=
+            nlohmann::json(cell(row, column)).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
     }
     json += ']';
 }

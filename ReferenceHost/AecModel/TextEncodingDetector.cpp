@@ -65,7 +65,9 @@ std::optional<std::string> detectUnmarkedUtf16(std::string_view bytes)
     // U+4E00...) at most once for every eight of them.
     const std::size_t units = sample.size() / 2;
     const auto highByteZeros = [units](std::size_t high, std::size_t low)
-    { return high > 0 && high * 4 >= units && low * 8 <= high; };
+    {
+        return high > 0 && high * 4 >= units && low * 8 <= high;
+    };
     if (highByteZeros(zerosAtOdd, zerosAtEven))
         return "UTF-16LE";
     if (highByteZeros(zerosAtEven, zerosAtOdd))

@@ -54,7 +54,8 @@ private:
         if (name == "workbookPr")
         {
             const char* const date1904 = attribute(attributes, "date1904");
-            if (date1904 != nullptr && (std::string_view(date1904) == "1" || std::string_view(date1904) == "true"))
+            if (date1904 != nullptr &&
+                (std::string_view(date1904) == "1" || std::string_view(date1904) == "true"))
                 dates = CNumberFormat::DateSystem::From1904;
         }
         if (name != "sheet")
@@ -374,7 +375,8 @@ SpreadsheetSheet readFirstXlsxWorksheet(const CZipArchive& archive, CTableCells&
         parseZipEntry(archive, "xl/sharedStrings.xml", sharedStrings);
 
     CStylesParser styles;
-    if (const std::string stylesEntry = entryOf(stylesTarget.value_or("styles.xml")); archive.contains(stylesEntry))
+    if (const std::string stylesEntry = entryOf(stylesTarget.value_or("styles.xml"));
+        archive.contains(stylesEntry))
         parseZipEntry(archive, stylesEntry, styles);
     std::vector<CNumberFormat> formats;
     for (const unsigned format : styles.styleFormats)

@@ -65,7 +65,8 @@ void CTableCellsModel::showColumnNames(const std::optional<std::wstring>& column
     QStringList columnNames;
     if (names.is_array())
         for (const nlohmann::json& name : names)
-            columnNames.append(name.is_string() ? QString::fromStdString(name.get<std::string>()) : QString());
+            columnNames.append(name.is_string() ? QString::fromStdString(name.get<std::string>())
+                                                : QString());
     if (columnNames == columnNames_)
         return;
     columnNames_ = std::move(columnNames);

@@ -1,7 +1,6 @@
 #include "AecModel/NumberFormat.h"
 
 #include <gtest/gtest.h>
-
 #include <string>
 #include <vector>
 
@@ -17,7 +16,8 @@ struct FormatCase
     std::string shown;
 };
 
-void check(const std::vector<FormatCase>& cases, CNumberFormat::DateSystem dates = CNumberFormat::DateSystem::From1900)
+void check(const std::vector<FormatCase>& cases,
+           CNumberFormat::DateSystem dates = CNumberFormat::DateSystem::From1900)
 {
     for (const FormatCase& number : cases)
         EXPECT_EQ(CNumberFormat(number.code, dates).format(number.value), number.shown)
@@ -51,6 +51,8 @@ TEST(NumberFormatTest, NumbersShowTheirDecimalsSeparatorsPercentAndExponent)
         {"0.0#", 1.25, "1.25"},
         {"000-000", 12345, "012-345"},
         {".00", 12.5, "12.50"},
+        {"0.00E+00", 5e-324, "4.94E-324"},     // the smallest double
+        {"0" + std::string(200, '%'), 2, "2"}, // beyond the doubles: shown as General
     });
 }
 
@@ -91,8 +93,8 @@ TEST(NumberFormatTest, DatesAndTimesCountDaysFromTheWorkbooksDateSystem)
         {"yyyy-mm-dd", 59, "1900-02-28"},
         {"yyyy-mm-dd", 60, "1900-02-29"}, // the day the 1900 system counts and the calendar has not
         {"yyyy-mm-dd", 61, "1900-03-01"},
-        {"yyyy-mm-dd", -1, "-1"},         // no date: shown as a number
-        {"yyyy-mm-dd", 3e6, "3000000"},   // past 9999
+        {"yyyy-mm-dd", -1, "-1"},       // no date: shown as a number
+        {"yyyy-mm-dd", 3e6, "3000000"}, // past 9999
     });
     check({{"yyyy-mm-dd", 0, "1904-01-01"}, {"yyyy-mm-dd hh:mm", 45000.25, "2027-03-16 06:00"}},
           CNumberFormat::DateSystem::From1904);

@@ -106,9 +106,9 @@ std::string worksheetXml(const Sheet& sheet, CSpreadsheetWriter::Strings strings
 
 std::string workbookXml(const std::vector<Sheet>& sheets, bool datesFrom1904 = false)
 {
-    std::string xml = fmt::format(R"({}<workbook xmlns="{}" xmlns:r="{}">{}<sheets>)", xmlDeclaration,
-                                  mainNamespace, relationNamespace,
-                                  datesFrom1904 ? R"(<workbookPr date1904="1"/>)" : "");
+    std::string xml =
+        fmt::format(R"({}<workbook xmlns="{}" xmlns:r="{}">{}<sheets>)", xmlDeclaration, mainNamespace,
+                    relationNamespace, datesFrom1904 ? R"(<workbookPr date1904="1"/>)" : "");
     for (std::size_t index = 0; index < sheets.size(); ++index)
         xml += fmt::format(R"(<sheet name="{}" sheetId="{}" r:id="rId{}"/>)", escaped(sheets[index].name),
                            index + 1, index + 1);
