@@ -103,7 +103,7 @@ std::pair<std::string, std::string> fixedDigits(double value, int decimals)
             digits[--at] = '0';
         if (at == 0)
         {
-            digits.insert(0, "1");
+            digits.insert(digits.begin(), '1');
             ++pointAt;
         }
         else
@@ -372,7 +372,10 @@ std::string CNumberFormat::format(double value) const
     }
     if (section->isDate)
         return formatDate(*section, value);
-    return (minus ? "-" : "") + formatNumber(*section, value);
+    std::string text = formatNumber(*section, value);
+    if (minus)
+        text.insert(text.begin(), '-');
+    return text;
 }
 
 std::string CNumberFormat::formatNumber(const Section& section, double value) const
