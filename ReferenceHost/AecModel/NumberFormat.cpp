@@ -403,7 +403,11 @@ std::string CNumberFormat::formatNumber(const Section& section, double value) co
     }
     const int decimals = static_cast<int>(decimalPlaces.size());
 
-    auto [integer, fraction] = fixedDigits(scaled, decimals);
+    // General and sections of literal text alone show no digits of their own: most cells of most
+    // sheets are General, and are spared the work.
+    const bool showsDigits = !integerPlaces.empty() || pointSeen || exponentSign;
+    auto [integer, fraction] =
+        showsDigits ? fixedDigits(scaled, decimals) : std::pair<std::string, std::string>();
     int exponent = 0;
     if (exponentSign)
     {
