@@ -5,15 +5,18 @@
 #include "AecModel/SampleProject.h"
 #include "AecModel/TableImporter.h"
 #include "AecModel/WideText.h"
-#include "Common/UUID.h"
-#include "TemporaryDirectory.h"
+
 #include "aec/PasteContext.h"
 #include "aec/Transaction.h"
 
-#include <algorithm>
+#include "Common/UUID.h"
+#include "TemporaryDirectory.h"
+
 #include <gtest/gtest.h>
-#include <memory>
 #include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <memory>
 #include <optional>
 #include <string>
 
