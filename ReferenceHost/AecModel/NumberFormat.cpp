@@ -155,6 +155,11 @@ std::vector<std::string> fillFromRight(std::string digits, const std::vector<std
 
 CNumberFormat::CNumberFormat(std::string_view code, DateSystem dates) : dates_(dates)
 {
+    // Spreadsheet programs keep a code to 255 characters; a longer one (a file made to harm) is taken
+    // for General rather than let every cell's text run to any length.
+    constexpr std::size_t longestCode = 255;
+    if (code.size() > longestCode)
+        code = "General";
     for (const std::string_view section : splitSections(code))
         sections_.push_back(parseSection(section));
 }

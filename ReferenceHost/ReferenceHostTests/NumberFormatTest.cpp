@@ -72,6 +72,7 @@ TEST(NumberFormatTest, SectionsAndLiteralTextFrameTheNumber)
         {"General\" m\"", 3, "3 m"},
         {"\"n/a\"", 7, "n/a"},
         {"\"unclosed", 7, "unclosed"},
+        {"0." + std::string(300, '0'), 7, "7"}, // longer than a spreadsheet program allows: General
     });
 }
 
