@@ -1,7 +1,8 @@
 // Importing a table of 100,000 rows from each kind of file, beside a plain read of the same file:
 // the time, and the peak resident memory the import adds, as a multiple of the file's size. The
-// import into a project ("import/...") keeps the table as the model stores it (wide text, and the
-// undo journal's copy); reading the table alone ("table/...") is what the reader itself needs.
+// import into a project ("import/...") keeps the table as the model stores it (the reader's cell
+// store, which the entity and the undo journal share); reading the table alone ("table/...") is
+// what the reader itself needs.
 //
 // Peak memory is the kernel's high-water mark of resident memory (VmHWM), reset before each run
 // through /proc/self/clear_refs: it counts what ICU, libzip and expat allocate with malloc as well,

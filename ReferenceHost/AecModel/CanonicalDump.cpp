@@ -44,7 +44,7 @@ std::string makeCanonicalDump(const CEntityStore& store)
                                          entity.getType().toString(), jsonQuoted(entity.getName()),
                                          topic ? topic->uuid().toString() : "-");
                           for (const auto& [name, value] : entity.getProperties())
-                              fmt::format_to(out, " {}={}", jsonQuoted(name), jsonQuoted(value));
+                              fmt::format_to(out, " {}={}", jsonQuoted(name), jsonQuoted(value.toUtf8()));
                           dump += '\n';
                       });
     }

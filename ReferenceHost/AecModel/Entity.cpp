@@ -49,12 +49,18 @@ void CEntity::setTopic(const TopicId& topic)
 
 std::optional<std::wstring> CEntity::getProperty(const std::string& name) const
 {
+    const CPropertyValue* const value = findProperty(name);
+    if (value == nullptr)
+        return std::nullopt;
+    return value->toText();
+}
+
+const CPropertyValue* CEntity::findProperty(const std::string& name) const
+{
     if (!properties_)
-        return std::nullopt;
+        return nullptr;
     const auto found = properties_->find(name);
-    if (found == properties_->end())
-        return std::nullopt;
-    return found->second;
+    return found == properties_->end() ? nullptr : &found->second;
 }
 
 const PropertyMap& CEntity::getProperties() const
@@ -78,13 +84,13 @@ void CEntity::assignTopic(const std::optional<TopicId>& topic)
     topic_ = topic;
 }
 
-void CEntity::assignProperty(const std::string& name, const std::optional<std::wstring>& value)
+void CEntity::assignProperty(const std::string& name, const std::optional<CPropertyValue>& value)
 {
     if (value)
     {
         if (!properties_)
             properties_ = std::make_unique<PropertyMap>();
-        (*properties_)[name] = *value;
+        properties_->insert_or_assign(name, *value);
         return;
     }
     if (!properties_)

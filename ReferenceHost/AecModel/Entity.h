@@ -43,8 +43,10 @@ public:
     void setTopic(const TopicId& topic) override;
 
     EntityCollection getCollection() const noexcept { return collection_; }
-    // The free-form property, or nothing when the entity does not have it.
+    // The free-form property's text, or nothing when the entity does not have it.
     std::optional<std::wstring> getProperty(const std::string& name) const;
+    // The free-form property's value (a table's cells stay shared), or null.
+    const CPropertyValue* findProperty(const std::string& name) const;
     const PropertyMap& getProperties() const;
     EntityRecord toRecord() const;
 
@@ -58,7 +60,7 @@ private:
     void assignName(std::wstring name);
     void assignTopic(const std::optional<TopicId>& topic);
     // Sets the property, or takes it away when the value is empty (undoing its creation).
-    void assignProperty(const std::string& name, const std::optional<std::wstring>& value);
+    void assignProperty(const std::string& name, const std::optional<CPropertyValue>& value);
 
     CProject& project_;
     OrderHook orderHook_;

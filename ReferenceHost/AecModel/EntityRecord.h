@@ -1,5 +1,7 @@
 #pragma once
 
+#include "AecModel/PropertyValue.h"
+
 #include "aec/EntityCollection.h"
 #include "aec/EntityId.h"
 #include "aec/Topic.h"
@@ -12,7 +14,7 @@ namespace aec::model
 {
 
 // Free-form properties of an entity, by name; ordered so that dumps and files list them stably.
-using PropertyMap = std::map<std::string, std::wstring>;
+using PropertyMap = std::map<std::string, CPropertyValue>;
 
 // The whole content of one entity as a plain value: what an undo step keeps of a removed entity
 // to bring it back, and what project files read and write.

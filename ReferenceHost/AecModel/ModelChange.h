@@ -45,8 +45,8 @@ struct EntityPropertyChanged
 {
     EntityId id;
     std::string name;
-    std::optional<std::wstring> before;
-    std::wstring after;
+    std::optional<CPropertyValue> before;
+    CPropertyValue after;
 };
 
 using ModelChange =

@@ -151,14 +151,15 @@ void CProject::setEntityTopic(const EntityId& id, std::optional<TopicId> topic)
     change(EntityTopicChanged{id, entity.getTopic(), topic});
 }
 
-void CProject::setEntityProperty(const EntityId& id, const std::string& name, std::wstring value)
+void CProject::setEntityProperty(const EntityId& id, const std::string& name, CPropertyValue value)
 {
     COMMON_PRECONDITION(!name.empty());
     const CEntity& entity = existingEntity(id);
-    std::optional<std::wstring> before = entity.getProperty(name);
-    if (before == value)
+    const CPropertyValue* const before = entity.findProperty(name);
+    if (before != nullptr && *before == value)
         return;
-    change(EntityPropertyChanged{id, name, std::move(before), std::move(value)});
+    change(EntityPropertyChanged{id, name, before == nullptr ? std::nullopt : std::optional(*before),
+                                 std::move(value)});
 }
 
 std::size_t CProject::entityCount() const noexcept

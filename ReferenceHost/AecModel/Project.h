@@ -69,7 +69,7 @@ public:
     void removeEntity(const EntityId& id);
     void renameEntity(const EntityId& id, std::wstring name);
     void setEntityTopic(const EntityId& id, std::optional<TopicId> topic);
-    void setEntityProperty(const EntityId& id, const std::string& name, std::wstring value);
+    void setEntityProperty(const EntityId& id, const std::string& name, CPropertyValue value);
 
     std::size_t entityCount() const noexcept;
     // Every collection in order, each entity with identifier, type, name, topic and properties:

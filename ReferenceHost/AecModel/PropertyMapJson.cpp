@@ -13,7 +13,7 @@ void writeProperties(nlohmann::json& entity, const PropertyMap& properties)
         return;
     nlohmann::json object = nlohmann::json::object();
     for (const auto& [name, value] : properties)
-        object[name] = toUtf8(value);
+        object[name] = value.toUtf8();
     entity["properties"] = std::move(object);
 }
 

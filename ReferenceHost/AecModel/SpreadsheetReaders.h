@@ -15,9 +15,9 @@ class CZipArchive;
 // most rowLimit rows, and throws common::EException for a file that is damaged, encrypted or has
 // no sheet.
 
-// Office Open XML workbooks (.xlsx): shared and inline strings as written, numbers as the General
-// format shows them (at most 15 significant digits), booleans as TRUE and FALSE, formula results
-// as cached in the file.
+// Office Open XML workbooks (.xlsx): shared and inline strings as written, numbers as their cell's
+// number format shows them (CNumberFormat; General by default), booleans as TRUE and FALSE,
+// formula results as cached in the file.
 SpreadsheetSheet readFirstXlsxWorksheet(const CZipArchive& archive, CTableCells& cells, std::size_t rowLimit,
                                         const TableReadProgress& progress);
 

@@ -1,9 +1,10 @@
 #include "AecModel/TableCells.h"
 
-#include <algorithm>
-#include <limits>
+#include "Common/Check.h"
 #include "Common/Exception.h"
 
+#include <algorithm>
+#include <limits>
 #include <nlohmann/json.hpp>
 
 namespace aec::model
@@ -16,6 +17,41 @@ void CTableCells::addCell(std::string_view text)
         throw common::EException("the table is too large to import");
     text_ += text;
     cellEnds_.push_back(static_cast<Offset>(text_.size()));
+}
+
+std::optional<CTableCells> CTableCells::fromJson(std::string_view json)
+{
+    const nlohmann::json rows = nlohmann::json::parse(json, nullptr, false);
+    if (!rows.is_array() || !std::ranges::all_of(rows, &nlohmann::json::is_array))
+        return std::nullopt;
+    CTableCells cells;
+    for (const nlohmann::json& row : rows)
+    {
+        for (const nlohmann::json& cell : row)
+            cells.addCell(cell.is_string() ? cell.get_ref<const std::string&>() : cell.dump());
+        cells.endRow();
+    }
+    return cells;
+}
+
+void CTableCells::reserveCells(std::size_t cells, std::size_t rows)
+{
+    cellEnds_.reserve(cells);
+    rowEnds_.reserve(rows);
+}
+
+void CTableCells::removeFirstRow()
+{
+    COMMON_PRECONDITION(rowCount() > 0);
+    const Offset cells = rowEnds_.front();
+    const Offset bytes = cells == 0 ? 0 : cellEnds_[cells - 1];
+    text_.erase(0, bytes);
+    cellEnds_.erase(cellEnds_.begin(), cellEnds_.begin() + cells);
+    for (Offset& end : cellEnds_)
+        end -= bytes;
+    rowEnds_.erase(rowEnds_.begin());
+    for (Offset& end : rowEnds_)
+        end -= cells;
 }
 
 void CTableCells::endRow()
@@ -87,8 +123,11 @@ void CTableCells::appendRowJson(std::string& json, std::size_t row) const
     {
         if (column > 0)
             json += ',';
-        // nlohmann's serializer does the escaping; the cell is copied once, briefly.
-        json += nlohmann::json(cell(row, column)).dump();
+        // nlohmann's serializer does the escaping; the cell is copied once, briefly. The readers give
+        // valid UTF-8, but a value that is saved must never fail to be: a stray byte would become
+        // U+FFFD rather than an error.
+        json +=
+            nlohmann::json(cell(row, column)).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
     }
     json += ']';
 }

@@ -29,7 +29,9 @@ constexpr std::size_t sampledRows = 50;
 // nothing.
 constexpr std::size_t recordsPerProgress = 4096;
 
-std::string readFile(const std::filesystem::path& file)
+// The progress hears first that the read begins, once the file is open: a host shows its progress
+// from then on, and what happens to the file from then on is caught here.
+std::string readFile(const std::filesystem::path& file, const TableReadProgress& progress)
 {
     std::ifstream stream = openInputFile(file);
     std::error_code error;
@@ -38,17 +40,38 @@ std::string readFile(const std::filesystem::path& file)
     // Read in one go into a buffer of the file's size: no growth, no second copy.
     if (!error)
         bytes.resize(static_cast<std::size_t>(size));
+    if (progress)
+        progress(0.0);
     stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     if (stream.gcount() != static_cast<std::streamsize>(bytes.size()) || stream.bad())
         throw common::EException("the file cannot be read to its end; it may have been moved or changed");
+    if (stream.peek() != std::ifstream::traits_type::eof())
+        throw common::EException("the file grew while it was read; import it once it is written");
     return bytes;
+}
+
+// Room for the cells, bounded by one quick count over the text: every delimiter and line break may
+// end a cell, and every line break a row. The cells' offsets then never grow by copies, whose
+// abandoned buffers would weigh as much again as the table's text.
+void reserveCells(std::string_view text, char delimiter, CTableCells& cells)
+{
+    std::size_t delimiters = 0;
+    std::size_t lineBreaks = 0;
+    for (std::size_t at = 0; at < text.size(); ++at)
+    {
+        const char character = text[at];
+        delimiters += character == delimiter ? 1 : 0;
+        lineBreaks += character == '\n' || (character == '\r' && text.substr(at + 1, 1) != "\n") ? 1 : 0;
+    }
+    cells.reserveText(text.size());
+    cells.reserveCells(delimiters + lineBreaks + 1, lineBreaks + 1);
 }
 
 void readDelimited(std::string_view text, char delimiter, CTableCells& cells, std::size_t rowLimit,
                    const TableReadProgress& progress)
 {
     CCsvReader reader(text, delimiter);
-    cells.reserveText(text.size());
+    reserveCells(text, delimiter, cells);
     std::vector<std::string> fields;
     for (std::size_t records = 0; records < rowLimit && reader.next(fields); ++records)
     {
@@ -112,7 +135,7 @@ CTableFileReader::Result CTableFileReader::read(const std::filesystem::path& fil
                                                 const TableReadChoices& choices, std::size_t rowLimit,
                                                 const TableReadProgress& progress)
 {
-    return readBytes(readFile(file), choices, rowLimit, progress);
+    return readBytes(readFile(file, progress), choices, rowLimit, progress);
 }
 
 CTableFileReader::Result CTableFileReader::readBytes(std::string bytes, const TableReadChoices& choices,

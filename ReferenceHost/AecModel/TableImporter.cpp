@@ -72,12 +72,14 @@ EntityId CTableImporter::importTable(IProject& project, const std::filesystem::p
     target.setEntityProperty(id, std::string(rowsProperty), std::to_wstring(report.rows));
     target.setEntityProperty(id, std::string(columnsProperty), std::to_wstring(report.columns));
     if (headerRow)
+    {
         target.setEntityProperty(id, std::string(columnNamesProperty), fromUtf8(table->cells.rowAsJson(0)));
-    // The JSON text is let go before its wide copy is made: a large table's cells are the biggest
-    // thing an import holds.
-    std::string cells = table->cells.rowsAsJson(headerRow ? 1 : 0);
-    table.reset();
-    target.setEntityProperty(id, std::string(cellsProperty), fromUtf8(std::exchange(cells, {})));
+        table->cells.removeFirstRow();
+    }
+    // The cells the reader made become the property's value as they are: the entity and the undo
+    // journal share them, and they become JSON text only when saved.
+    target.setEntityProperty(id, std::string(cellsProperty),
+                             CPropertyValue(std::make_shared<const CTableCells>(std::move(table->cells))));
     lastReport_ = report;
     return id;
 }

@@ -18,7 +18,8 @@ namespace aec::model
 // other property:
 // - "rows" and "columns": the counts of data rows and columns, in decimal;
 // - "cells": a JSON list of the data rows, each a list of texts, all as long as the longest row
-//   (shorter rows are padded with empty cells, as a spreadsheet shows them);
+//   (shorter rows are padded with empty cells, as a spreadsheet shows them); kept as the reader's
+//   compact cells (CPropertyValue) until it is saved or shown as text;
 // - "column names": when the file has a header row, its texts as a JSON list as long as a row.
 class AECMODEL_API CTableImporter final : public ITitleBlockIO
 {

@@ -2,6 +2,8 @@
 
 #include "AecModel/Utf8Validation.h"
 
+#include <optional>
+
 #ifndef _WIN32
 #include <memory>
 #include <unicode/ucsdet.h>
@@ -45,6 +47,34 @@ std::string detectUnmarked(std::string_view bytes)
 }
 #endif
 
+// UTF-16 without a byte order mark. The code units of a table's text are mostly digits, Latin
+// letters, delimiters and line breaks, whose high byte is zero: one byte in two of the sample is a
+// zero, always on the same side, which no 8-bit text has (a zero byte there is binary data). Such
+// bytes are valid UTF-8, so the UTF-8 check and ICU's detector never see them; hence this rule.
+constexpr std::size_t utf16Sample = 1024;
+
+std::optional<std::string> detectUnmarkedUtf16(std::string_view bytes)
+{
+    const std::string_view sample = bytes.substr(0, utf16Sample);
+    std::size_t zerosAtEven = 0;
+    std::size_t zerosAtOdd = 0;
+    for (std::size_t at = 0; at < sample.size(); ++at)
+        if (sample[at] == '\0')
+            ++(at % 2 == 0 ? zerosAtEven : zerosAtOdd);
+    // At least a quarter of the code units with a zero high byte, and a zero low byte (U+0100,
+    // U+4E00...) at most once for every eight of them.
+    const std::size_t units = sample.size() / 2;
+    const auto highByteZeros = [units](std::size_t high, std::size_t low)
+    {
+        return high > 0 && high * 4 >= units && low * 8 <= high;
+    };
+    if (highByteZeros(zerosAtOdd, zerosAtEven))
+        return "UTF-16LE";
+    if (highByteZeros(zerosAtEven, zerosAtOdd))
+        return "UTF-16BE";
+    return std::nullopt;
+}
+
 } // namespace
 
 std::string CTextEncodingDetector::detect(std::string_view bytes)
@@ -55,6 +85,8 @@ std::string CTextEncodingDetector::detect(std::string_view bytes)
         return "UTF-16LE";
     if (bytes.starts_with("\xFE\xFF"))
         return "UTF-16BE";
+    if (std::optional<std::string> utf16 = detectUnmarkedUtf16(bytes))
+        return *utf16;
     if (!firstInvalidUtf8Line(bytes))
         return "UTF-8";
     return detectUnmarked(bytes);

@@ -1,3 +1,4 @@
+#include "AecModel/NumberFormat.h"
 #include "AecModel/SpreadsheetReaders.h"
 #include "AecModel/TableCells.h"
 #include "AecModel/XmlStreamParser.h"
@@ -8,6 +9,7 @@
 #include <charconv>
 #include <fmt/format.h>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -26,15 +28,36 @@ constexpr std::size_t maximumColumns = 16'384;
     throw common::EException(fmt::format("the spreadsheet is damaged ({})", what));
 }
 
-// The sheets in workbook order, each with its relation's identifier.
+// A count or an index in an attribute, or nothing when it is missing or not a number.
+std::optional<unsigned> numberIn(const char* text)
+{
+    if (text == nullptr)
+        return std::nullopt;
+    const std::string_view digits = text;
+    unsigned number = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    if (error != std::errc() || end != digits.data() + digits.size())
+        return std::nullopt;
+    return number;
+}
+
+// The sheets in workbook order, each with its relation's identifier, and the workbook's date system.
 class CWorkbookParser final : public CXmlStreamParser
 {
 public:
     std::vector<std::pair<std::string, std::string>> sheets;
+    CNumberFormat::DateSystem dates = CNumberFormat::DateSystem::From1900;
 
 private:
     void onStart(std::string_view name, const char** attributes) override
     {
+        if (name == "workbookPr")
+        {
+            const char* const date1904 = attribute(attributes, "date1904");
+            if (date1904 != nullptr &&
+                (std::string_view(date1904) == "1" || std::string_view(date1904) == "true"))
+                dates = CNumberFormat::DateSystem::From1904;
+        }
         if (name != "sheet")
             return;
         const char* const sheetName = attribute(attributes, "name");
@@ -45,19 +68,24 @@ private:
     void onText(std::string_view) override {}
 };
 
-// Where each relation of the workbook points, by identifier.
+// Where each relation of the workbook points, by identifier; and where its styles are.
 class CRelationsParser final : public CXmlStreamParser
 {
 public:
     std::map<std::string, std::string, std::less<>> targets;
+    std::optional<std::string> stylesTarget;
 
 private:
     void onStart(std::string_view name, const char** attributes) override
     {
         const char* const id = attribute(attributes, "Id");
         const char* const target = attribute(attributes, "Target");
+        const char* const type = attribute(attributes, "Type");
         if (name == "Relationship" && id != nullptr && target != nullptr)
             targets.emplace(id, target);
+        if (name == "Relationship" && type != nullptr && target != nullptr &&
+            std::string_view(type).ends_with("/styles"))
+            stylesTarget = target;
     }
     void onEnd(std::string_view) override {}
     void onText(std::string_view) override {}
@@ -97,6 +125,36 @@ private:
     bool inPhonetic_ = false;
 };
 
+// The number format of each cell style (the <xf> of <cellXfs>, by index): a format code of the
+// workbook's own (<numFmt>) or a built-in one.
+class CStylesParser final : public CXmlStreamParser
+{
+public:
+    std::vector<unsigned> styleFormats;
+    std::map<unsigned, std::string> codes;
+
+private:
+    void onStart(std::string_view name, const char** attributes) override
+    {
+        const std::optional<unsigned> format = numberIn(attribute(attributes, "numFmtId"));
+        const char* const code = attribute(attributes, "formatCode");
+        if (name == "numFmt" && format && code != nullptr)
+            codes[*format] = code;
+        else if (name == "cellXfs")
+            inCellStyles_ = true;
+        else if (name == "xf" && inCellStyles_)
+            styleFormats.push_back(format.value_or(0));
+    }
+    void onEnd(std::string_view name) override
+    {
+        if (name == "cellXfs")
+            inCellStyles_ = false;
+    }
+    void onText(std::string_view) override {}
+
+    bool inCellStyles_ = false;
+};
+
 // 1-based column of a cell reference such as "AB12", or 0 when it has none.
 std::size_t columnOf(std::string_view reference)
 {
@@ -112,18 +170,14 @@ std::size_t columnOf(std::string_view reference)
     return column;
 }
 
-// A number as the General format shows it: at most 15 significant digits, so that binary
-// fractions such as 0.30000000000000004 read as 0.3.
-std::string generalNumber(const std::string& value)
+// A number as its cell's format shows it; a value that is no number, as it is.
+std::string formattedNumber(const std::string& value, const CNumberFormat& format)
 {
     double number = 0;
     const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), number);
     if (error != std::errc() || end != value.data() + value.size())
         return value;
-    std::string text = fmt::format("{:.15g}", number);
-    if (const std::size_t exponent = text.find('e'); exponent != std::string::npos)
-        text[exponent] = 'E';
-    return text;
+    return format.format(number);
 }
 
 // Empty cells and rows count only when a cell with text follows them: spreadsheet programs write
@@ -131,8 +185,10 @@ std::string generalNumber(const std::string& value)
 class CWorksheetParser final : public CXmlStreamParser
 {
 public:
-    CWorksheetParser(CTableCells& cells, const std::vector<std::string>& sharedStrings, std::size_t rowLimit)
-        : cells_(cells), sharedStrings_(sharedStrings), rowLimit_(rowLimit)
+    // The formats are those of the cell styles, by index.
+    CWorksheetParser(CTableCells& cells, const std::vector<std::string>& sharedStrings,
+                     const std::vector<CNumberFormat>& formats, std::size_t rowLimit)
+        : cells_(cells), sharedStrings_(sharedStrings), formats_(formats), rowLimit_(rowLimit)
     {
     }
 
@@ -150,7 +206,7 @@ private:
         if (name == "row")
             startRow(attribute(attributes, "r"));
         else if (name == "c" && inRow_)
-            startCell(attribute(attributes, "r"), attribute(attributes, "t"));
+            startCell(attribute(attributes, "r"), attribute(attributes, "t"), attribute(attributes, "s"));
         else if ((name == "v" || (name == "t" && inInlineString_)) && inCell_)
             inValue_ = true;
         else if (name == "is")
@@ -212,8 +268,9 @@ private:
             stop();
     }
 
-    void startCell(const char* reference, const char* type)
+    void startCell(const char* reference, const char* type, const char* style)
     {
+        style_ = numberIn(style).value_or(0);
         // A column given twice or backwards takes the next one.
         const std::size_t column = reference == nullptr ? column_ + 1 : columnOf(reference);
         if (column > column_ + 1)
@@ -261,13 +318,16 @@ private:
         if (type_ == "b")
             return value_ == "1" ? "TRUE" : value_ == "0" ? "FALSE" : value_;
         if (type_ == "n" && !value_.empty())
-            return generalNumber(value_);
+            return formattedNumber(value_, style_ < formats_.size() ? formats_[style_] : generalFormat_);
         return value_;
     }
 
     CTableCells& cells_;
     const std::vector<std::string>& sharedStrings_;
+    const std::vector<CNumberFormat>& formats_;
+    const CNumberFormat generalFormat_;
     std::size_t rowLimit_;
+    std::size_t style_ = 0;
     std::size_t column_ = 0;
     std::size_t emptyCells_ = 0;
     std::size_t emptyRows_ = 0;
@@ -300,19 +360,33 @@ SpreadsheetSheet readFirstXlsxWorksheet(const CZipArchive& archive, CTableCells&
     const auto& [sheetName, relation] = workbook.sheets.front();
 
     std::string sheetEntry = "xl/worksheets/sheet1.xml";
+    std::optional<std::string> stylesTarget;
     if (archive.contains("xl/_rels/workbook.xml.rels"))
     {
         CRelationsParser relations;
         parseZipEntry(archive, "xl/_rels/workbook.xml.rels", relations);
         if (const auto target = relations.targets.find(relation); target != relations.targets.end())
             sheetEntry = entryOf(target->second);
+        stylesTarget = std::move(relations.stylesTarget);
     }
 
     CSharedStringsParser sharedStrings;
     if (archive.contains("xl/sharedStrings.xml"))
         parseZipEntry(archive, "xl/sharedStrings.xml", sharedStrings);
 
-    CWorksheetParser worksheet(cells, sharedStrings.strings, rowLimit);
+    CStylesParser styles;
+    if (const std::string stylesEntry = entryOf(stylesTarget.value_or("styles.xml"));
+        archive.contains(stylesEntry))
+        parseZipEntry(archive, stylesEntry, styles);
+    std::vector<CNumberFormat> formats;
+    for (const unsigned format : styles.styleFormats)
+    {
+        const auto own = styles.codes.find(format);
+        formats.emplace_back(own != styles.codes.end() ? own->second : CNumberFormat::builtInCode(format),
+                             workbook.dates);
+    }
+
+    CWorksheetParser worksheet(cells, sharedStrings.strings, formats, rowLimit);
     parseZipEntry(archive, sheetEntry, worksheet, progress);
     worksheet.finish();
     return {sheetName, workbook.sheets.size()};

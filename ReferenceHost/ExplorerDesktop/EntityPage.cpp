@@ -98,9 +98,9 @@ bool CEntityPage::showFrom(const model::CProject& project)
         const int row = properties_->rowCount();
         properties_->insertRow(row);
         properties_->setItem(row, 0, new QTableWidgetItem(QString::fromStdString(name)));
-        properties_->setItem(row, 1, new QTableWidgetItem(QString::fromStdWString(value)));
+        properties_->setItem(row, 1, new QTableWidgetItem(QString::fromStdString(value.toUtf8())));
     }
-    cellsView_->setVisible(cells_->showCells(entity->getProperty(cellsProperty)));
+    cellsView_->setVisible(cells_->showCells(entity->findProperty(cellsProperty)));
     cells_->showColumnNames(entity->getProperty(columnNamesProperty));
     return true;
 }

@@ -1,9 +1,11 @@
 #include "ExplorerDesktop/TableCellsModel.h"
 
+#include "AecModel/PropertyValue.h"
+#include "AecModel/TableCells.h"
 #include "AecModel/WideText.h"
 
-#include <algorithm>
 #include <functional>
+#include <nlohmann/json.hpp>
 
 namespace aec::desktop
 {
@@ -12,53 +14,47 @@ CTableCellsModel::CTableCellsModel(QObject* parent) : QAbstractTableModel(parent
 
 CTableCellsModel::~CTableCellsModel() = default;
 
-bool CTableCellsModel::showCells(const std::optional<std::wstring>& cellsJson)
+bool CTableCellsModel::showCells(const model::CPropertyValue* cells)
 {
     // A page shows its entity again after every change of the project; a table's cells rarely
-    // change, and parsing them again each time would cost as much as opening the table.
-    const std::size_t hash = cellsJson ? std::hash<std::wstring>{}(*cellsJson) : 0;
-    if (hasShown_ && hash == shownHash_)
-        return columnCount_ > 0;
+    // change, and reading cells kept as text again each time would cost as much as opening the table.
+    std::shared_ptr<const model::CTableCells> store = cells == nullptr ? nullptr : cells->getCells();
+    const std::string text = cells == nullptr || store ? std::string() : cells->toUtf8();
+    const std::size_t textHash = std::hash<std::string>{}(text);
+    if (hasShown_ && store == shownStore_ && textHash == shownTextHash_)
+        return cells_ != nullptr;
     hasShown_ = true;
-    shownHash_ = hash;
+    shownStore_ = store;
+    shownTextHash_ = textHash;
 
-    nlohmann::json rows =
-        cellsJson ? nlohmann::json::parse(model::toUtf8(*cellsJson), nullptr, false) : nlohmann::json();
-    // Cells that do not read as a list of rows (edited by hand) are left out, not guessed at.
-    const bool isGrid = rows.is_array() && !rows.empty() &&
-                        std::ranges::all_of(rows, [](const nlohmann::json& row) { return row.is_array(); });
-    std::size_t columns = 0;
-    if (isGrid)
-        for (const nlohmann::json& row : rows)
-            columns = std::max(columns, row.size());
+    // Cells kept as text that does not read as a list of rows (edited by hand) are left out, not
+    // guessed at.
+    if (!store && !text.empty())
+        if (std::optional<model::CTableCells> read = model::CTableCells::fromJson(text))
+            store = std::make_shared<const model::CTableCells>(std::move(*read));
     beginResetModel();
-    rows_ = isGrid ? std::move(rows) : nlohmann::json::array();
-    columnCount_ = static_cast<int>(columns);
+    cells_ = store && store->rowCount() > 0 ? std::move(store) : nullptr;
     endResetModel();
-    return isGrid;
+    return cells_ != nullptr;
 }
 
 int CTableCellsModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+    return parent.isValid() || !cells_ ? 0 : static_cast<int>(cells_->rowCount());
 }
 
 int CTableCellsModel::columnCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : columnCount_;
+    return parent.isValid() || !cells_ ? 0 : static_cast<int>(cells_->columnCount());
 }
 
 QVariant CTableCellsModel::data(const QModelIndex& index, int role) const
 {
     if (role != Qt::DisplayRole || !checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    const nlohmann::json& row = rows_[static_cast<std::size_t>(index.row())];
-    const auto column = static_cast<std::size_t>(index.column());
-    if (column >= row.size())
-        return QString();
-    const nlohmann::json& cell = row[column];
-    return cell.is_string() ? QString::fromStdString(cell.get_ref<const std::string&>())
-                            : QString::fromStdString(cell.dump());
+    const std::string_view cell =
+        cells_->cell(static_cast<std::size_t>(index.row()), static_cast<std::size_t>(index.column()));
+    return QString::fromUtf8(cell.data(), static_cast<qsizetype>(cell.size()));
 }
 
 void CTableCellsModel::showColumnNames(const std::optional<std::wstring>& columnNamesJson)
@@ -69,12 +65,13 @@ void CTableCellsModel::showColumnNames(const std::optional<std::wstring>& column
     QStringList columnNames;
     if (names.is_array())
         for (const nlohmann::json& name : names)
-            columnNames.append(name.is_string() ? QString::fromStdString(name.get<std::string>()) : QString());
+            columnNames.append(name.is_string() ? QString::fromStdString(name.get<std::string>())
+                                                : QString());
     if (columnNames == columnNames_)
         return;
     columnNames_ = std::move(columnNames);
-    if (columnCount_ > 0)
-        Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount_ - 1);
+    if (columnCount() > 0)
+        Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
 }
 
 QVariant CTableCellsModel::headerData(int section, Qt::Orientation orientation, int role) const

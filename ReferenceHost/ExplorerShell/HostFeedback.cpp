@@ -94,7 +94,7 @@ void CHostFeedback::writeProperties(std::ostream& out) const
         out << fmt::format("properties of {} ({}, {}):\n", lookup.quotedName(id),
                            entityTypeName(entity.getType()), topic);
         for (const auto& [name, value] : entity.getProperties())
-            out << fmt::format("  {}: {}\n", name, model::toUtf8(value));
+            out << fmt::format("  {}: {}\n", name, value.toUtf8());
         if (entity.getProperties().empty())
             out << "  (no properties)\n";
     }

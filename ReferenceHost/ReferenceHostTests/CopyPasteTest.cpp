@@ -3,12 +3,14 @@
 #include "AecModel/Project.h"
 #include "AecModel/ProjectServices.h"
 #include "AecModel/SampleProject.h"
+#include "AecModel/TableImporter.h"
 #include "AecModel/WideText.h"
 
 #include "aec/PasteContext.h"
 #include "aec/Transaction.h"
 
 #include "Common/UUID.h"
+#include "TemporaryDirectory.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -172,6 +174,27 @@ TEST_F(CopyPasteTest, EverythingCopiedReadsBackAsItWasCopied)
 
     const auto read = serializer.deserialize(text, PasteContext{*source, copyableCollections});
     EXPECT_EQ(copies(read), copies(copied));
+}
+
+// An imported table's cells are one store that the copy shares; pasted, they read as the same text.
+TEST_F(CopyPasteTest, AnImportedTablePastesWithItsCells)
+{
+    const test::CTemporaryDirectory temporary("aec-copy-paste-");
+    const auto transaction = source->getTransactionHost().openTransaction("Import table from file");
+    const EntityId table =
+        CTableImporter().importTable(*source, temporary.write("Doors.csv", "Mark;Width\nD1;\"9,5\"\nD2;8\n"));
+    transaction->commit();
+    const std::string cells(CTableImporter::cellsProperty);
+    const CPropertyValue& imported = *source->findEntity(table)->findProperty(cells);
+    ASSERT_NE(imported.getCells(), nullptr);
+
+    const auto built = build({table});
+    EXPECT_EQ(copies(built).collection(CopyCollection::Tables).at(0).properties.at(cells).getCells(),
+              imported.getCells());
+    const EntityIdList pasted = paste(*source, serializer.serialize(*built));
+    ASSERT_EQ(pasted.size(), 1u);
+    EXPECT_EQ(source->findEntity(pasted[0])->getProperty(cells), L"[[\"D1\",\"9,5\"],[\"D2\",\"8\"]]");
+    EXPECT_EQ(source->findEntity(pasted[0])->getProperties(), source->findEntity(table)->getProperties());
 }
 
 TEST_F(CopyPasteTest, PasteIntoTheSameProjectMakesNumberedCopiesInTheirTopics)

@@ -26,12 +26,6 @@ namespace fs = std::filesystem;
 class SafeSaveTest : public ::testing::Test
 {
 protected:
-    static std::string read(const fs::path& path)
-    {
-        std::ifstream stream(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-    }
-
     // The message of a save that must fail.
     std::string failedSave(const fs::path& path) const
     {
@@ -82,7 +76,7 @@ TEST_F(SafeSaveTest, AReadOnlyFileIsRefused)
     const fs::path readOnly = temporary.write("read-only.json", "old");
     fs::permissions(readOnly, fs::perms(0444));
     EXPECT_NE(failedSave(readOnly).find("you may not write it"), std::string::npos);
-    EXPECT_EQ(read(readOnly), "old");
+    EXPECT_EQ(test::CTemporaryDirectory::read(readOnly), "old");
     EXPECT_EQ(fs::status(readOnly).permissions(), fs::perms(0444));
     // The temporary directory must be able to remove it afterwards.
     fs::permissions(readOnly, fs::perms(0644));
@@ -133,7 +127,7 @@ TEST_F(SafeSaveTest, FailuresLeaveTheOldFileAndNoTemporaryFile)
 
     EXPECT_NE(message.find("not enough room"), std::string::npos) << message;
     EXPECT_NE(message.find(target.string()), std::string::npos) << message;
-    EXPECT_EQ(read(target), "old");
+    EXPECT_EQ(test::CTemporaryDirectory::read(target), "old");
     EXPECT_EQ(namesInFolder(), std::vector<std::string>{"project.json"});
 }
 

@@ -12,6 +12,8 @@
 #include "aec/Transaction.h"
 
 #include <filesystem>
+#include <fstream>
+#include <functional>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 #include <string>
@@ -44,11 +46,12 @@ struct ImportCase
     std::string refusal;
 };
 
-// UTF-16 with its byte order mark; the texts are ASCII or Latin-1, one code unit per character.
-std::string utf16(std::u16string_view text, bool bigEndian)
+// UTF-16, with its byte order mark unless told otherwise; the texts are of the Basic Multilingual
+// Plane, one code unit per character.
+std::string utf16(std::u16string_view text, bool bigEndian, bool marked = true)
 {
     std::string bytes;
-    for (const char16_t unit : std::u16string(u"\uFEFF") + std::u16string(text))
+    for (const char16_t unit : std::u16string(marked ? u"\uFEFF" : u"") + std::u16string(text))
     {
         const char high = static_cast<char>(unit >> 8);
         const char low = static_cast<char>(unit & 0xFF);
@@ -165,6 +168,13 @@ TEST_F(TableImporterTest, DelimitedTextIsReadAsSpreadsheetProgramsReadIt)
         {"UTF-16 BE with vertical bars", "rooms.txt", utf16(u"Room|Area\r\nHall|7\r\n", true),
          Cells{{"Hall", "7"}}, Row{"Room", "Area"},
          "CSV, UTF-16BE, vertical bar-separated, header row, 1 row, 2 columns", ""},
+        {"UTF-16 LE without a byte order mark, a few characters with a zero low byte", "unmarked.csv",
+         utf16(u"Raum;Fl\u00E4che\r\n\u0100\u4E00;12\r\nFlur;7\r\n", false, false),
+         Cells{{"Ā一", "12"}, {"Flur", "7"}}, Row{"Raum", "Fläche"},
+         "CSV, UTF-16LE, semicolon-separated, header row, 2 rows, 2 columns", ""},
+        {"UTF-16 BE without a byte order mark", "unmarked.tsv", utf16(u"Room\tArea\nHall\t7\n", true, false),
+         Cells{{"Hall", "7"}}, Row{"Room", "Area"},
+         "CSV, UTF-16BE, tab-separated, header row, 1 row, 2 columns", ""},
         {"quoting: delimiters, doubled quotes, CR LF and LF kept in quotes, a quote inside a field",
          "Door schedule.csv",
          "\xEF\xBB\xBF"
@@ -253,7 +263,32 @@ TEST_F(TableImporterTest, XlsxWorkbooksGiveTheirFirstWorksheetAsShown)
     encrypted.add("xl/workbook.xml", R"(<workbook><sheets><sheet name="S" id="x"/></sheets></workbook>)");
     encrypted.add("xl/worksheets/sheet1.xml", "<worksheet/>", "password");
     const std::string whole = CSpreadsheetWriter::xlsx(workbook);
+    // Cell styles 1 to 4 are a date, a format of the workbook's own, a percentage and thousands;
+    // the cell style formats before them are not cell styles.
+    const std::string styles =
+        R"(<styleSheet><numFmts><numFmt numFmtId="164" formatCode="0.0&quot; m²&quot;"/></numFmts>)"
+        R"(<cellStyleXfs><xf numFmtId="10"/></cellStyleXfs><cellXfs><xf numFmtId="0"/><xf numFmtId="14"/>)"
+        R"(<xf numFmtId="164"/><xf numFmtId="10"/><xf numFmtId="3"/></cellXfs></styleSheet>)";
+    const std::string formattedRow =
+        R"(<worksheet><sheetData><row><c s="1"><v>45000</v></c><c s="2"><v>12.345</v></c>)"
+        R"(<c s="3"><v>0.125</v></c><c s="4"><v>1234567</v></c><c s="9"><v>0.30000000000000004</v></c>)"
+        R"(<c s="1" t="s"><v>0</v></c></row></sheetData></worksheet>)";
+    const std::string sharedStrings = "<sst><si><t>45000</t></si></sst>";
     check({
+        {"numbers as their cell styles show them",
+         "styled.xlsx",
+         CSpreadsheetWriter::xlsxAround(formattedRow, sharedStrings, styles),
+         Cells{{"2023-03-15", "12.3 m²", "12.50%", "1,234,567", "0.3", "45000"}},
+         {},
+         "XLSX, sheet \"Sheet1\", no header row, 1 row, 6 columns",
+         ""},
+        {"dates counted from 1904",
+         "1904.xlsx",
+         CSpreadsheetWriter::xlsxAround(formattedRow, sharedStrings, styles, true),
+         Cells{{"2027-03-16", "12.3 m²", "12.50%", "1,234,567", "0.3", "45000"}},
+         {},
+         "XLSX, sheet \"Sheet1\", no header row, 1 row, 6 columns",
+         ""},
         {"shared strings", "rooms.xlsx", whole, cells, {"Room", "Area", "Level"}, report, ""},
         {"inline strings",
          "inline.xlsx",
@@ -379,6 +414,41 @@ TEST_F(TableImporterTest, ChoicesOverDetectionAndCancellingLeavesTheProjectAsItW
     expectRefused(file, "the import was cancelled");
 }
 
+// The progress hears first that the read begins, with the file open: what becomes of the file from
+// then on must not pass unnoticed.
+TEST_F(TableImporterTest, AFileThatChangesWhileItIsReadIsRefused)
+{
+    struct Change
+    {
+        std::string what;
+        std::function<void(const fs::path&)> change;
+        std::string fault;
+    };
+    const std::vector<Change> changes{
+        {"cut short", [](const fs::path& file) { fs::resize_file(file, fs::file_size(file) / 2); },
+         "the file cannot be read to its end; it may have been moved or changed"},
+        {"emptied", [](const fs::path& file) { std::ofstream(file, std::ios::binary | std::ios::trunc); },
+         "the file cannot be read to its end"},
+        {"grown",
+         [](const fs::path& file) { std::ofstream(file, std::ios::binary | std::ios::app) << "Bath,4\n"; },
+         "the file grew while it was read"},
+    };
+    for (const Change& change : changes)
+    {
+        SCOPED_TRACE(change.what);
+        const fs::path file = write("plan.csv", "Room,Area\nHall,7\nKitchen,12\n");
+        int calls = 0;
+        importer.setProgress(
+            [&](double)
+            {
+                if (++calls == 1)
+                    change.change(file);
+            });
+        expectRefused(file, change.fault);
+        EXPECT_GE(calls, 2); // the start, then the end
+    }
+}
+
 TEST_F(TableImporterTest, TablesAreNamedUniquelyAndKeepTheirContentThroughSaveAndUndo)
 {
     const fs::path file = write("Existing.csv", "Mark,Width\nD1,900\n");
@@ -387,14 +457,25 @@ TEST_F(TableImporterTest, TablesAreNamedUniquelyAndKeepTheirContentThroughSaveAn
     EXPECT_EQ(project.findEntity(first)->getName(), L"Existing (2)");
     EXPECT_EQ(project.findEntity(second)->getName(), L"Existing (3)");
 
+    // The imported cells save as the JSON text that a loaded file keeps them as: saving the loaded
+    // project again writes the same bytes.
     const fs::path saved = directory / "project.json";
     CProjectFile::save(project, saved);
-    EXPECT_EQ(CProjectFile::load(saved)->canonicalDump(), project.canonicalDump());
+    const std::unique_ptr<CProject> loaded = CProjectFile::load(saved);
+    EXPECT_EQ(loaded->canonicalDump(), project.canonicalDump());
+    EXPECT_EQ(loaded->findEntity(first)->getProperty(std::string(CTableImporter::cellsProperty)),
+              L"[[\"D1\",\"900\"]]");
+    const fs::path savedAgain = directory / "again.json";
+    CProjectFile::save(*loaded, savedAgain);
+    EXPECT_EQ(temporary.read(savedAgain), temporary.read(saved));
 
     project.getUndoHistory().undo();
     EXPECT_EQ(project.findEntity(second), nullptr);
     EXPECT_EQ(cellsOf(first), (Cells{{"D1", "900"}}));
     EXPECT_EQ(columnNamesOf(first), (Row{"Mark", "Width"}));
+    project.getUndoHistory().redo();
+    EXPECT_EQ(cellsOf(second), (Cells{{"D1", "900"}}));
+    EXPECT_EQ(project.canonicalDump(), loaded->canonicalDump());
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <string>
 
 namespace aec::model::test
@@ -32,6 +33,13 @@ public:
         const std::filesystem::path file = path_ / name;
         std::ofstream(file, std::ios::binary) << bytes;
         return file;
+    }
+
+    // The bytes of a file, as they are.
+    static std::string read(const std::filesystem::path& file)
+    {
+        std::ifstream stream(file, std::ios::binary);
+        return std::string(std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>());
     }
 
 private:

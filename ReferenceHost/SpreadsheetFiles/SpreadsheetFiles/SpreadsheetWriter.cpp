@@ -104,10 +104,11 @@ std::string worksheetXml(const Sheet& sheet, CSpreadsheetWriter::Strings strings
     return xml + "</sheetData></worksheet>";
 }
 
-std::string workbookXml(const std::vector<Sheet>& sheets)
+std::string workbookXml(const std::vector<Sheet>& sheets, bool datesFrom1904 = false)
 {
-    std::string xml = fmt::format(R"({}<workbook xmlns="{}" xmlns:r="{}"><sheets>)", xmlDeclaration,
-                                  mainNamespace, relationNamespace);
+    std::string xml =
+        fmt::format(R"({}<workbook xmlns="{}" xmlns:r="{}">{}<sheets>)", xmlDeclaration, mainNamespace,
+                    relationNamespace, datesFrom1904 ? R"(<workbookPr date1904="1"/>)" : "");
     for (std::size_t index = 0; index < sheets.size(); ++index)
         xml += fmt::format(R"(<sheet name="{}" sheetId="{}" r:id="rId{}"/>)", escaped(sheets[index].name),
                            index + 1, index + 1);
@@ -211,13 +212,16 @@ std::string CSpreadsheetWriter::ods(const std::vector<Sheet>& sheets)
     return odsAround(content + "</office:spreadsheet></office:body></office:document-content>");
 }
 
-std::string CSpreadsheetWriter::xlsxAround(std::string worksheetXml, std::string sharedStringsXml)
+std::string CSpreadsheetWriter::xlsxAround(std::string worksheetXml, std::string sharedStringsXml,
+                                           std::string stylesXml, bool datesFrom1904)
 {
     CZipWriter zip = xlsxPackage();
-    zip.add("xl/workbook.xml", workbookXml({Sheet{"Sheet1", {}}}));
+    zip.add("xl/workbook.xml", workbookXml({Sheet{"Sheet1", {}}}, datesFrom1904));
     zip.add("xl/_rels/workbook.xml.rels", relationsXml(1));
     zip.add("xl/worksheets/sheet1.xml", std::move(worksheetXml));
     zip.add("xl/sharedStrings.xml", std::move(sharedStringsXml));
+    if (!stylesXml.empty())
+        zip.add("xl/styles.xml", std::move(stylesXml));
     return zip.bytes();
 }
 

@@ -30,8 +30,10 @@ public:
     // that a spreadsheet program saved.
     static std::string ods(const std::vector<Sheet>& sheets);
 
-    // A workbook whose first worksheet and shared strings are the given XML, for fuzzing.
-    static std::string xlsxAround(std::string worksheetXml, std::string sharedStringsXml);
+    // A workbook whose first worksheet, shared strings and styles (none when empty) are the given
+    // XML, counting dates from 1904 when told, for fuzzing and for cells of given formats.
+    static std::string xlsxAround(std::string worksheetXml, std::string sharedStringsXml,
+                                  std::string stylesXml = {}, bool datesFrom1904 = false);
     // A spreadsheet whose content is the given XML, for fuzzing.
     static std::string odsAround(std::string contentXml);
 };
