@@ -200,17 +200,12 @@ private Q_SLOTS:
         tree.setFocus();
         tree.setCurrentIndex(entityIndex(L"Glass 8mm"));
         QKeySequence copyKey;
-        QTimer::singleShot(0, this,
-                           [&copyKey]
-                           {
-                               auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-                               if (menu == nullptr)
-                                   return;
-                               for (QAction* const item : menu->actions())
-                                   if (item->text().remove('&') == "Copy")
-                                       copyKey = item->shortcut();
-                               menu->close();
-                           });
+        readNextPopup(
+            [&copyKey](const QAction& item)
+            {
+                if (QString(item.text()).remove('&') == "Copy")
+                    copyKey = item.shortcut();
+            });
         QTest::keyClick(&tree, Qt::Key_F10, Qt::ShiftModifier);
         QCOMPARE(copyKey, QKeySequence(QKeySequence::Copy));
     }
@@ -289,19 +284,14 @@ private Q_SLOTS:
         const auto choices = [this, &tree]
         {
             QStringList shown;
-            QTimer::singleShot(0, this,
-                               [&shown]
-                               {
-                                   auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-                                   if (menu == nullptr)
-                                       return;
-                                   for (QAction* const item : menu->actions())
-                                       if (item->menu() != nullptr && item->text() == "Change topic")
-                                           for (QAction* const topic : item->menu()->actions())
-                                               shown << topic->text().replace("&&", "&") +
-                                                            (topic->isChecked() ? " (checked)" : "");
-                                   menu->close();
-                               });
+            readNextPopup(
+                [&shown](const QAction& item)
+                {
+                    if (item.menu() != nullptr && item.text() == "Change topic")
+                        for (QAction* const topic : item.menu()->actions())
+                            shown << topic->text().replace("&&", "&") +
+                                         (topic->isChecked() ? " (checked)" : "");
+                });
             // A right click on a selected row.
             const QModelIndex clicked = tree.selectionModel()->selectedIndexes().front();
             tree.scrollTo(clicked);
@@ -386,6 +376,22 @@ private Q_SLOTS:
     }
 
 private:
+    // Reads each action of the next popup menu once it shows, then closes it.
+    template <class Read>
+    void readNextPopup(Read read)
+    {
+        QTimer::singleShot(0, this,
+                           [read]
+                           {
+                               auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+                               if (menu == nullptr)
+                                   return;
+                               for (const QAction* const item : menu->actions())
+                                   read(*item);
+                               menu->close();
+                           });
+    }
+
     void typeFilter(const QString& text)
     {
         QLineEdit& box = window_->getFilterBox();
