@@ -18,9 +18,11 @@ CCutCopyPasteContextMenuItems::getMenuItems(const ITranslation& translation) con
 {
     return {
         makeStandardMenuItem(translation, text_ids::cut, std::string(cutIdentifier),
-                             makeCommandAction(gui_, commands::cut), selectionNotEmpty_),
+                             makeCommandAction(gui_, commands::cut),
+                             selectionNotEmpty_ && gui_.isCommandEnabled(commands::cut)),
         makeStandardMenuItem(translation, text_ids::copy, std::string(copyIdentifier),
-                             makeCommandAction(gui_, commands::copy), selectionNotEmpty_),
+                             makeCommandAction(gui_, commands::copy),
+                             selectionNotEmpty_ && gui_.isCommandEnabled(commands::copy)),
         makeStandardMenuItem(translation, text_ids::paste, std::string(pasteIdentifier),
                              makeCommandAction(gui_, commands::paste),
                              gui_.isCommandEnabled(commands::paste)),

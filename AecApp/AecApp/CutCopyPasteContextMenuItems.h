@@ -18,8 +18,10 @@ public:
     static constexpr std::string_view copyIdentifier = "2412a4ab-e752-4a97-b6d1-025f87df6476";
     static constexpr std::string_view pasteIdentifier = "0834841d-0ddc-41e3-a852-326399aa96b5";
 
-    // Cut and copy are enabled when something is selected; paste follows the state of the host's
-    // paste command when the items are made, since that state tracks the clipboard.
+    // Cut and copy are enabled when something is selected and the host's command of the item is
+    // enabled (it is not when the selection holds nothing that the command acts on); paste follows
+    // the state of the host's paste command, which tracks the clipboard. States are read when the
+    // items are made.
     CCutCopyPasteContextMenuItems(IGui& gui, bool selectionNotEmpty);
 
     std::vector<CContextMenuItem> getMenuItems(const ITranslation& translation) const override;

@@ -1,6 +1,7 @@
 #include "AecApp/SingleCommandMenuItem.h"
 
 #include "AecApp/StandardMenuItem.h"
+#include "aec/Gui.h"
 
 namespace aec
 {
@@ -14,8 +15,9 @@ CSingleCommandMenuItem::CSingleCommandMenuItem(IGui& gui, int textId, std::strin
 
 std::vector<CContextMenuItem> CSingleCommandMenuItem::getMenuItems(const ITranslation& translation) const
 {
-    return {
-        makeStandardMenuItem(translation, textId_, identifier_, makeCommandAction(gui_, command_), enabled_)};
+    // The command's state now says whether the selection holds anything it acts on.
+    return {makeStandardMenuItem(translation, textId_, identifier_, makeCommandAction(gui_, command_),
+                                 enabled_ && gui_.isCommandEnabled(command_))};
 }
 
 std::string CSingleCommandMenuItem::getName() const

@@ -12,7 +12,8 @@ namespace aec
 class IGui;
 
 // A family of one item that runs one host command; the standard families that are nothing more
-// derive from it and fix its text, identifier and command.
+// derive from it and fix its text, identifier and command. The item is enabled when it was made
+// enabled and the host's command is enabled when the item is made.
 class AECAPP_API CSingleCommandMenuItem : public IMenuItemProvider
 {
 public:

@@ -56,20 +56,28 @@ protected:
                                   {145, L"Open"}}};
 };
 
-TEST_F(StandardMenuItemsTest, CutAndCopyFollowTheSelectionAndPasteTheHostCommand)
+TEST_F(StandardMenuItemsTest, CutAndCopyFollowTheSelectionAndTheHostCommands)
 {
     for (const bool selectionNotEmpty : {true, false})
-    {
-        gui.enableCommand(85, !selectionNotEmpty);
-        expectItems(aec::CCutCopyPasteContextMenuItems(gui, selectionNotEmpty),
-                    {{L"Cut", "c9856780-1496-481d-a977-04553bcd9fc7", selectionNotEmpty, 82},
-                     {L"Copy", "2412a4ab-e752-4a97-b6d1-025f87df6476", selectionNotEmpty, 81},
-                     {L"Paste", "0834841d-0ddc-41e3-a852-326399aa96b5", !selectionNotEmpty, 85}});
-    }
+        for (const bool commandsEnabled : {true, false})
+        {
+            // A host disables cut and copy when the selection holds nothing they act on.
+            gui.enableCommand(82, commandsEnabled);
+            gui.enableCommand(81, !commandsEnabled || selectionNotEmpty);
+            gui.enableCommand(85, !selectionNotEmpty);
+            const bool copyEnabled = selectionNotEmpty;
+            expectItems(
+                aec::CCutCopyPasteContextMenuItems(gui, selectionNotEmpty),
+                {{L"Cut", "c9856780-1496-481d-a977-04553bcd9fc7", selectionNotEmpty && commandsEnabled, 82},
+                 {L"Copy", "2412a4ab-e752-4a97-b6d1-025f87df6476", copyEnabled, 81},
+                 {L"Paste", "0834841d-0ddc-41e3-a852-326399aa96b5", !selectionNotEmpty, 85}});
+        }
 }
 
 TEST_F(StandardMenuItemsTest, SingleItemFamiliesRunTheirCommandOrAction)
 {
+    for (const int command : {88, 11, 12})
+        gui.enableCommand(command, true);
     expectItems(aec::CSelectAllMenuItems(gui),
                 {{L"Select all", "7BF652D6-61C9-46A1-9447-A4AC9E2A57F7", true, 88}});
     for (const bool enabled : {true, false})
@@ -79,6 +87,11 @@ TEST_F(StandardMenuItemsTest, SingleItemFamiliesRunTheirCommandOrAction)
         expectItems(aec::CEditPropertiesMenuItems(gui, enabled),
                     {{L"Properties", "c2e9237b-133d-40aa-8255-fac432c29c8c", enabled, 12}});
     }
+
+    // Made enabled, an item still follows its command's state now.
+    gui.enableCommand(11, false);
+    expectItems(aec::CDeleteCommandMenuItems(gui, true),
+                {{L"Delete", "0207d3e1-9328-428b-997b-a9adb0795393", false, 11}});
 
     int opened = 0;
     for (const bool enabled : {true, false})

@@ -87,7 +87,7 @@ TEST_F(SyntheticProjectTest, NamesMixCaseNumbersAndNonAsciiText)
 
 TEST_F(SyntheticProjectTest, MostEntitiesHaveATopicAndTheFirstTopicsTheMost)
 {
-    const std::vector<aec::CTopic> topics = project->getTopics();
+    const std::vector<aec::CTopic> topics = project->getProjectTopics();
     ASSERT_EQ(topics.size(), 1000u);
     std::map<aec::TopicId, std::size_t> members;
     std::size_t withoutTopic = 0;

@@ -29,7 +29,9 @@ public:
     virtual IEntity* findEntity(const EntityId& id) = 0;
     // The entity, read-only, or null when the project has none of that identifier.
     virtual const IEntity* findEntity(const EntityId& id) const = 0;
-    // The project's topics in collection order.
+    // The topics that the user chooses among when moving entities to a topic, in the order to show
+    // them. An entry with the nil identifier, when the host gives one, stands for no topic: moving
+    // entities to it (through prepareTopicChange and setTopic) takes their topic away.
     virtual std::vector<CTopic> getTopics() const = 0;
 
     // Opens the project's named transactions.

@@ -44,7 +44,8 @@ std::optional<TopicId> CEntity::getTopic() const
 
 void CEntity::setTopic(const TopicId& topic)
 {
-    project_.setEntityTopic(id_, topic);
+    // The nil topic is the "(No topic)" choice of the change-topic menu.
+    project_.setEntityTopic(id_, topic.isNull() ? std::nullopt : std::optional<TopicId>(topic));
 }
 
 std::optional<std::wstring> CEntity::getProperty(const std::string& name) const

@@ -25,7 +25,7 @@ class CTopicMapping
 public:
     explicit CTopicMapping(const CProject& project)
     {
-        for (const CTopic& topic : project.getTopics())
+        for (const CTopic& topic : project.getProjectTopics())
         {
             existing_.insert(topic.getId());
             byName_.emplace(topic.getName(), topic.getId());

@@ -1,16 +1,17 @@
 #include "AecModel/Project.h"
 
+#include "AecModel/AttributeValueFormatter.h"
 #include "AecModel/CanonicalDump.h"
 #include "AecModel/EntityCollectionInfo.h"
 #include "AecModel/WideText.h"
-
 #include "Common/Check.h"
 #include "Common/Exception.h"
+#include "Common/LogicalCompare.h"
 #include "Common/UUID.h"
 
-#include <fmt/format.h>
-
+#include <algorithm>
 #include <atomic>
+#include <fmt/format.h>
 
 namespace aec::model
 {
@@ -53,6 +54,15 @@ const CEntity* CProject::findEntity(const EntityId& id) const
 
 std::vector<CTopic> CProject::getTopics() const
 {
+    std::vector<CTopic> topics = getProjectTopics();
+    std::ranges::stable_sort(topics, common::LogicalLess(),
+                             [](const CTopic& topic) { return std::wstring_view(topic.getName()); });
+    topics.emplace(topics.begin(), TopicId(), std::wstring(CAttributeValueFormatter::absentText));
+    return topics;
+}
+
+std::vector<CTopic> CProject::getProjectTopics() const
+{
     std::vector<CTopic> topics;
     store_.forEach(EntityCollection::Topics, [&topics](const CEntity& topic)
                    { topics.emplace_back(TopicId(topic.getId().uuid()), topic.getName()); });
@@ -86,7 +96,7 @@ CDocument& CProject::getDocument() const
 
 void CProject::prepareTopicChange(const std::vector<IEntity*>& entities, const TopicId& topic)
 {
-    if (!isTopic(topic))
+    if (!topic.isNull() && !isTopic(topic))
         throw common::EException(fmt::format(
             "The topic {} is no longer part of the project; choose another topic.", topic.uuid().toString()));
     for (const IEntity* const entity : entities)

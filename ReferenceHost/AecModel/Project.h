@@ -48,7 +48,12 @@ public:
     EntityIdList getEntities(EntityCollection collection) const override;
     CEntity* findEntity(const EntityId& id) override;
     const CEntity* findEntity(const EntityId& id) const override;
+    // The topics as the user chooses among them (the change-topic menu lists them in this order):
+    // first "(No topic)" with the nil identifier, which takes the topic away, then the project's
+    // topics in natural order of their names, as the tree sorts them.
     std::vector<CTopic> getTopics() const override;
+    // The project's topics themselves, in collection order.
+    std::vector<CTopic> getProjectTopics() const;
 
     ITransactionHost& getTransactionHost() override;
     IChangeNotificationBatch& getChangeNotificationBatch() override;
@@ -56,7 +61,8 @@ public:
     COperationHost& getOperationHost() override;
     CDocument& getDocument() const override;
     // Nothing needs preparing in this model; throws common::EException when the topic is gone or an
-    // entity cannot belong to a topic, so that the change is refused before it starts.
+    // entity cannot belong to a topic, so that the change is refused before it starts. The nil
+    // topic is no topic: the entities lose theirs.
     void prepareTopicChange(const std::vector<IEntity*>& entities, const TopicId& topic) override;
     void setChangeOrigin(const char* file, int line) override;
 

@@ -17,7 +17,7 @@ QString menuText(const CContextMenuItem& item)
 }
 
 void fill(QMenu& menu, const std::vector<CContextMenuItem>& items, const ContextMenuShortcuts& shortcuts,
-          const QVariantList& parentPath)
+          const QVariantList& parentPath, const QVariantList& checked)
 {
     for (std::size_t index = 0; index < items.size(); ++index)
     {
@@ -33,12 +33,17 @@ void fill(QMenu& menu, const std::vector<CContextMenuItem>& items, const Context
         {
             QMenu* const submenu = menu.addMenu(menuText(item));
             submenu->setEnabled(item.isEnabled());
-            fill(*submenu, item.getSubItems(), shortcuts, path);
+            fill(*submenu, item.getSubItems(), shortcuts, path, checked);
             continue;
         }
         QAction* const action = menu.addAction(menuText(item));
         action->setEnabled(item.isEnabled());
         action->setData(path);
+        if (path == checked)
+        {
+            action->setCheckable(true);
+            action->setChecked(true);
+        }
         if (const auto shortcut = shortcuts.find(item.getIdentifier()); shortcut != shortcuts.end())
         {
             action->setShortcut(shortcut->second);
@@ -50,9 +55,12 @@ void fill(QMenu& menu, const std::vector<CContextMenuItem>& items, const Context
 } // namespace
 
 void fillContextMenu(QMenu& menu, const std::vector<CContextMenuItem>& items,
-                     const ContextMenuShortcuts& shortcuts)
+                     const ContextMenuShortcuts& shortcuts, const std::vector<std::size_t>& checked)
 {
-    fill(menu, items, shortcuts, QVariantList());
+    QVariantList checkedPath;
+    for (const std::size_t index : checked)
+        checkedPath.append(QVariant::fromValue(static_cast<qulonglong>(index)));
+    fill(menu, items, shortcuts, QVariantList(), checkedPath);
 }
 
 std::vector<std::size_t> contextMenuPath(const QAction& action)

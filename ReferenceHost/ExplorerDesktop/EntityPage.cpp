@@ -40,7 +40,7 @@ QString topicOf(const model::CEntity& entity, const model::CProject& project)
 {
     const std::optional<TopicId> topic = entity.getTopic();
     if (topic)
-        for (const CTopic& known : project.getTopics())
+        for (const CTopic& known : project.getProjectTopics())
             if (known.getId() == *topic)
                 return QString::fromStdWString(known.getName());
     return QString::fromStdWString(std::wstring(model::CAttributeValueFormatter::absentText));

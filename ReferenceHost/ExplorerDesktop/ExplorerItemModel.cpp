@@ -5,6 +5,7 @@
 #include "ExplorerDesktop/ExplorerTreeReader.h"
 #include "HostFrame/ExplorerPanel.h"
 #include "HostFrame/ExplorerSession.h"
+#include "HostFrame/TopicEditor.h"
 #include "HostServices/HostServices.h"
 #include "aec/Entity.h"
 #include "aec/Project.h"
@@ -150,8 +151,16 @@ bool CExplorerItemModel::setData(const QModelIndex& index, const QVariant& value
         return true;
     const EntityId entity = node->getEntity();
     // The rename's object event rebuilds the panel, and the model follows before this returns.
-    return runner_.run([this, &entity, &newName]
-                       { session_.getEntityController().renameEntity(entity, newName); });
+    // Topics are no type of the explorer's; the host renames them itself.
+    return runner_.run(
+        [this, &entity, &newName]
+        {
+            host::CTopicEditor topics(session_.getProject());
+            if (topics.isTopic(entity))
+                topics.rename(TopicId(entity.uuid()), newName);
+            else
+                session_.getEntityController().renameEntity(entity, newName);
+        });
 }
 
 Qt::ItemFlags CExplorerItemModel::flags(const QModelIndex& index) const
@@ -247,7 +256,8 @@ void CExplorerItemModel::setExpanded(const QModelIndex& index, bool expanded)
 void CExplorerItemModel::toggleGroupInPanel(host::CExplorerPanel& panel, int row, bool expanded)
 {
     panel.toggleGroup(row);
-    const IProjectExplorerGroup& group = *std::next(std::as_const(panel.getExplorer()).getGroups().begin(), row);
+    const IProjectExplorerGroup& group =
+        *std::next(std::as_const(panel.getExplorer()).getGroups().begin(), row);
     if (showsFlat(group) && flatSubgroup(group).isExpanded() != expanded)
         panel.toggleSubgroup(row, 0);
 }

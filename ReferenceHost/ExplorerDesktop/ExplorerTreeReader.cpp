@@ -44,7 +44,7 @@ bool hasRenamableEntities(const IProjectExplorerGroup& group)
 {
     const auto& groups = projectExplorerGroups();
     const auto info = std::ranges::find(groups, group.getId(), &ProjectExplorerGroupInfo::id);
-    return info != groups.end() && info->groupable;
+    return info != groups.end() && (info->groupable || info->collection == EntityCollection::Topics);
 }
 
 std::unique_ptr<CExplorerTreeNode> readGroupShell(const IProjectExplorerGroup& group)

@@ -24,8 +24,8 @@ namespace aec::desktop
 
 // Whether the group shows its entities without a subgroup level.
 bool showsFlat(const IProjectExplorerGroup& group);
-// Only the entities of the host's seven groupable groups are renamable: they are the host's
-// renamable types.
+// The entities of the host's seven groupable groups are renamable through the explorer, the topics
+// through the host's own topic editor; linked models and images are named after their files.
 bool hasRenamableEntities(const IProjectExplorerGroup& group);
 
 std::unique_ptr<CExplorerTreeNode> readGroupShell(const IProjectExplorerGroup& group);

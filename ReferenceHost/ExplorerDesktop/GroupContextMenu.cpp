@@ -5,6 +5,7 @@
 #include "ExplorerDesktop/ExplorerTreeView.h"
 #include "HostFrame/ExplorerSession.h"
 #include "HostFrame/Gui.h"
+#include "HostFrame/TopicEditor.h"
 #include "aec/Commands.h"
 #include "aec/EntityTypes.h"
 #include "aec/ProjectExplorerEntityController.h"
@@ -85,6 +86,11 @@ void CGroupContextMenu::addNewEntityAction(const QModelIndex& itemIndex)
     const ProjectExplorerGroupInfo* const info = groupInfo(model_.groupIdAt(itemIndex));
     if (info == nullptr)
         return;
+    if (info->collection == EntityCollection::Topics)
+    {
+        addNewTopicAction();
+        return;
+    }
     const auto kind = std::ranges::find_if(creatableKinds, [info](const CreatableKind& creatable)
                                            { return creatable.collection == info->collection; });
     if (kind == creatableKinds.end())
@@ -101,6 +107,22 @@ void CGroupContextMenu::addNewEntityAction(const QModelIndex& itemIndex)
                     return;
                 // As in the file browsers users know, a new entity's name opens for editing.
                 tree_.startRename(created);
+            });
+}
+
+void CGroupContextMenu::addNewTopicAction()
+{
+    QAction* const action = addNamedAction("newEntity", tr("New &topic"), QKeySequence());
+    action->setEnabled(session_.hasProject());
+    connect(action, &QAction::triggered, this,
+            [this]
+            {
+                TopicId created;
+                // Topics are no type of the explorer's: the host makes them, as one undo step.
+                if (!runner_.run([this, &created]
+                                 { created = host::CTopicEditor(session_.getProject()).create(); }))
+                    return;
+                tree_.startRename(EntityId(created.uuid()));
             });
 }
 

@@ -17,9 +17,9 @@ class CExplorerTreeView;
 
 // The context menu of a group or subgroup row. The explorer's own menu is about the selected
 // entities; a group's is about the group: a new entity of the group's kind where the host can
-// make one, importing a table into the tables, unfolding and folding everything below the row,
-// and pasting. Its actions are named ("newEntity", "importTable", "expandAll", "collapseAll",
-// "paste") for tests.
+// make one (a topic in the topics' group), importing a table into the tables, unfolding and folding
+// everything below the row, and pasting. Its actions are named ("newEntity", "importTable", "expandAll",
+// "collapseAll", "paste") for tests.
 class CGroupContextMenu final : public QMenu
 {
     Q_OBJECT
@@ -32,6 +32,7 @@ public:
 
 private:
     void addNewEntityAction(const QModelIndex& itemIndex);
+    void addNewTopicAction();
     void addCommandAction(const QString& name, const QString& text, const QKeySequence& shortcut,
                           int command);
     QAction* addNamedAction(const QString& name, const QString& text, const QKeySequence& shortcut);

@@ -22,10 +22,12 @@
 #include "ExplorerDesktop/StatusCounts.h"
 #include "ExplorerDesktop/SystemClipboardBridge.h"
 #include "ExplorerDesktop/TopicDropHandler.h"
+#include "HostFrame/CurrentTopicItem.h"
 #include "HostFrame/ExplorerPanel.h"
 #include "HostFrame/ExplorerSession.h"
 #include "HostFrame/Gui.h"
 #include "HostFrame/StatusService.h"
+#include "HostFrame/TopicEditor.h"
 #include "HostServices/HostServices.h"
 #include "ProjectExplorerLib/ProjectExplorerContextMenuItemsProvider.h"
 #include "aec/Commands.h"
@@ -250,7 +252,9 @@ void CMainWindow::makeMenus()
     addCommandAction(edit, "cut", tr("Cu&t"), QKeySequence::Cut, commands::cut);
     addCommandAction(edit, "copy", tr("&Copy"), QKeySequence::Copy, commands::copy);
     addCommandAction(edit, "paste", tr("&Paste"), QKeySequence::Paste, commands::paste);
-    addCommandAction(edit, "delete", tr("&Delete"), QKeySequence::Delete, commands::deleteSelection);
+    // Topics are deleted by the host itself, everything else by the explorer's command.
+    connect(addAction(edit, "delete", tr("&Delete"), QKeySequence::Delete), &QAction::triggered, this,
+            &CMainWindow::deleteSelected);
     edit.addSeparator();
     connect(addAction(edit, "rename", tr("Re&name"), QKeySequence(Qt::Key_F2)), &QAction::triggered, this,
             &CMainWindow::renameSelected);
@@ -292,9 +296,6 @@ void CMainWindow::updateActions()
         if (!command.isValid())
             continue;
         bool enabled = hasProject && gui.canRunCommand(command.toInt());
-        // The explorer's delete and properties do nothing without a selection; say so by greying.
-        if (command.toInt() == commands::deleteSelection)
-            enabled = enabled && !selected.empty();
         if (command.toInt() == commands::editProperties)
             enabled = enabled && session_.getEntityController().canEditProperties(selectedList);
         action->setEnabled(enabled);
@@ -324,6 +325,10 @@ void CMainWindow::updateActions()
     const QModelIndex single =
         selected.size() == 1 ? model_->indexOfEntity(*selected.begin()) : QModelIndex();
     getAction("rename").setEnabled(single.isValid() && (model_->flags(single) & Qt::ItemIsEditable));
+    // The explorer's delete does nothing without a selection; say so by greying.
+    getAction("delete").setEnabled(
+        hasProject && !selected.empty() &&
+        (gui.canRunCommand(commands::deleteSelection) || !selectedTopics().empty()));
     getAction("save").setEnabled(hasProject);
     getAction("saveAs").setEnabled(hasProject);
 }
@@ -357,9 +362,13 @@ void CMainWindow::showExplorerContextMenu(const QPoint& position)
             }))
         return;
     QMenu menu;
-    fillContextMenu(menu, gui.getLastContextMenu(), explorerMenuShortcuts());
+    std::vector<std::size_t> currentTopic;
+    if (const auto topic = host::currentTopicItem(session_, gui.getLastContextMenu()))
+        currentTopic = {topic->first, topic->second};
+    fillContextMenu(menu, gui.getLastContextMenu(), explorerMenuShortcuts(), currentTopic);
+    addTopicActions(menu);
     QAction* const chosen = menu.exec(tree_->viewport()->mapToGlobal(position));
-    if (chosen == nullptr)
+    if (chosen == nullptr || contextMenuPath(*chosen).empty())
         return;
     const std::vector<std::size_t> path = contextMenuPath(*chosen);
     runner_->run([&gui, &path] { gui.chooseContextMenuItem(path); });
@@ -497,6 +506,58 @@ void CMainWindow::openEntity(const QModelIndex& index)
         return;
     const EntityIdList entities{node->getEntity()};
     runner_->run([this, &entities] { session_.getEntityController().open(entities); });
+}
+
+std::vector<TopicId> CMainWindow::selectedTopics() const
+{
+    if (!session_.hasProject())
+        return {};
+    const host::CTopicEditor editor(session_.getProject());
+    std::vector<TopicId> topics;
+    for (const EntityId& entity : selection_->getSelectedEntities())
+    {
+        if (!editor.isTopic(entity))
+            return {};
+        topics.emplace_back(entity.uuid());
+    }
+    return topics;
+}
+
+void CMainWindow::addTopicActions(QMenu& menu)
+{
+    // The explorer's menu has no items for topics, which are no type of its own; the host adds
+    // the ones it carries out itself, under the Edit menu's keys.
+    const std::vector<TopicId> topics = selectedTopics();
+    if (topics.empty())
+        return;
+    menu.addSeparator();
+    if (topics.size() == 1)
+    {
+        QAction* const rename = menu.addAction(tr("Re&name topic"), this, &CMainWindow::renameSelected);
+        rename->setObjectName("renameTopic");
+        rename->setShortcut(getAction("rename").shortcut());
+        rename->setShortcutVisibleInContextMenu(true);
+    }
+    QAction* const remove = menu.addAction(tr("&Delete topic"), this, &CMainWindow::deleteSelected);
+    remove->setObjectName("deleteTopic");
+    remove->setShortcut(getAction("delete").shortcut());
+    remove->setShortcutVisibleInContextMenu(true);
+}
+
+void CMainWindow::deleteSelected()
+{
+    const std::vector<TopicId> topics = selectedTopics();
+    if (topics.empty())
+    {
+        runner_->run([this] { session_.getGui().runCommand(commands::deleteSelection); });
+        return;
+    }
+    runner_->run(
+        [this, &topics]
+        {
+            host::CTopicEditor(session_.getProject())
+                .removeAfterAsking(topics, session_.getHostServices().getDialogService());
+        });
 }
 
 void CMainWindow::renameSelected()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ExplorerDesktop/ContextMenuBuilder.h"
+#include "aec/Topic.h"
 
 #include <QMainWindow>
 #include <QMessageBox>
@@ -11,6 +12,7 @@ class QLineEdit;
 #include <boost/signals2/connection.hpp>
 #include <functional>
 #include <memory>
+#include <vector>
 
 namespace aec::host
 {
@@ -100,6 +102,12 @@ private:
     bool mayDropProject(const QString& action);
     void openEntity(const QModelIndex& index);
     void renameSelected();
+    // Deletes the selected topics after asking, or runs the explorer's delete for anything else.
+    void deleteSelected();
+    // The selected entities when every one of them is a topic, else nothing.
+    std::vector<TopicId> selectedTopics() const;
+    // Rename and delete items for a selection of topics, which the host manages itself.
+    void addTopicActions(QMenu& menu);
     // Gives the open project's document the window's property context, unless it has one.
 
     host::CExplorerSession& session_;

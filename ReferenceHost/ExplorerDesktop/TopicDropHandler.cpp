@@ -47,7 +47,7 @@ std::optional<TopicId> CTopicDropHandler::topicOfDrop(const EntityIdList& entiti
 
     // Subgroups of a group split by topic are named after their topics; entities without a topic
     // make a subgroup of their own that no topic is named after, and that takes no drops.
-    const std::vector<CTopic> topics = session_.getProject().getTopics();
+    const std::vector<CTopic> topics = session_.getProject().getProjectTopics();
     const auto topic = std::ranges::find_if(topics, [target](const CTopic& candidate)
                                             { return candidate.getName() == target->getDisplay().name; });
     if (topic == topics.end())

@@ -1,22 +1,28 @@
 #include "ExplorerShell/ContextMenuCommands.h"
 
+#include "AecApp/CutCopyPasteContextMenuItems.h"
+#include "AecApp/DeleteCommandMenuItems.h"
 #include "AecApp/OpenMenuItem.h"
 #include "AecModel/WideText.h"
 #include "Common/Exception.h"
 #include "ExplorerShell/CommandLine.h"
 #include "ExplorerShell/CommandTable.h"
+#include "HostFrame/CurrentTopicItem.h"
 #include "HostFrame/ExplorerSession.h"
 #include "HostFrame/Gui.h"
 #include "HostServices/HostServices.h"
+#include "aec/Commands.h"
 #include "aec/MbCartPoint.h"
 #include "aec/TextIds.h"
 
 #include <algorithm>
+#include <array>
 #include <boost/algorithm/string/predicate.hpp>
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 #include <optional>
 #include <ostream>
+#include <utility>
 
 namespace aec::shell
 {
@@ -78,18 +84,25 @@ CContextMenuCommands::CContextMenuCommands(host::CExplorerSession& session, CCom
                }});
 }
 
-void CContextMenuCommands::writeMenu(const std::vector<CContextMenuItem>& items, std::ostream& out, int depth)
+void CContextMenuCommands::writeMenu(const std::vector<CContextMenuItem>& items, std::ostream& out,
+                                     const std::vector<std::size_t>& current, int depth)
 {
     const std::string indent(static_cast<std::size_t>(depth) * 2, ' ');
-    for (const CContextMenuItem& item : items)
+    for (std::size_t index = 0; index < items.size(); ++index)
     {
+        const CContextMenuItem& item = items[index];
         if (item.isSeparator())
         {
             out << indent << "---\n";
             continue;
         }
-        out << indent << model::toUtf8(item.getText()) << (item.isEnabled() ? "" : " (disabled)") << '\n';
-        writeMenu(item.getSubItems(), out, depth + 1);
+        const bool onPath = !current.empty() && current.front() == index;
+        out << indent << model::toUtf8(item.getText()) << (item.isEnabled() ? "" : " (disabled)")
+            << (onPath && current.size() == 1 ? " (current)" : "") << '\n';
+        writeMenu(item.getSubItems(), out,
+                  onPath ? std::vector<std::size_t>(current.begin() + 1, current.end())
+                         : std::vector<std::size_t>{},
+                  depth + 1);
     }
 }
 
@@ -128,11 +141,16 @@ void CContextMenuCommands::showMenu(const CCommandLine& line, std::ostream& out)
     const std::vector<CContextMenuItem>& items = requestMenu();
     if (line.getArgumentCount() == 0)
     {
-        writeMenu(items, out);
+        std::vector<std::size_t> current;
+        if (const auto topic = host::currentTopicItem(session_, items))
+            current = {topic->first, topic->second};
+        writeMenu(items, out, current);
         return;
     }
     const std::wstring text = model::fromUtf8(line.joinArguments(0));
     const std::vector<std::size_t> path = findItem(items, text);
+    refuseDisabledCommand(path.size() == 1 ? items[path.front()]
+                                           : items[path.front()].getSubItems()[path.back()]);
     std::string chosen = model::toUtf8(items[path.front()].getText());
     if (path.size() > 1)
         chosen += '/' + model::toUtf8(items[path.front()].getSubItems()[path.back()].getText());
@@ -170,6 +188,22 @@ void CContextMenuCommands::changeTopic(const CCommandLine& line, std::ostream& o
     const std::string chosen = model::toUtf8(submenu->getSubItems()[*item].getText());
     choose({static_cast<std::size_t>(submenu - items.begin()), *item});
     out << "topic: " << CCommandLine::quote(chosen) << '\n';
+}
+
+void CContextMenuCommands::refuseDisabledCommand(const CContextMenuItem& item)
+{
+    if (item.isEnabled())
+        return;
+    // The standard items run the host's commands; the GUI knows why such a command cannot run.
+    static const std::array<std::pair<std::string_view, int>, 3> commandItems{{
+        {CCutCopyPasteContextMenuItems::cutIdentifier, commands::cut},
+        {CCutCopyPasteContextMenuItems::copyIdentifier, commands::copy},
+        {CDeleteCommandMenuItems::identifier, commands::deleteSelection},
+    }};
+    for (const auto& [identifier, command] : commandItems)
+        if (item.getIdentifier() == identifier)
+            if (std::optional<std::string> refusal = session_.getGui().targetRefusal(command))
+                throw common::EException(std::move(*refusal));
 }
 
 const std::vector<CContextMenuItem>& CContextMenuCommands::requestMenu()

@@ -19,8 +19,9 @@ public:
     CContextMenuCommands(host::CExplorerSession& session, CCommandTable& table);
 
     // One item a line, separators as "---", disabled items marked "(disabled)", the items of a
-    // submenu indented under it.
-    static void writeMenu(const std::vector<CContextMenuItem>& items, std::ostream& out, int depth = 0);
+    // submenu indented under it; the item at `current` (a path of indices) marked "(current)".
+    static void writeMenu(const std::vector<CContextMenuItem>& items, std::ostream& out,
+                          const std::vector<std::size_t>& current = {}, int depth = 0);
     // The way to the item with the text, a submenu's item as "Submenu/Item". Texts compare exactly,
     // else without regard to ASCII case when that leaves one item. Throws common::EException naming
     // the items there are when no item, a separator or a submenu has the text.
@@ -32,6 +33,8 @@ private:
     void open();
     void changeTopic(const CCommandLine& line, std::ostream& out);
     // Asks for the context menu of the selection, as a right-click in the panel does.
+    // Throws the host's reason when the item is a disabled cut, copy or delete.
+    void refuseDisabledCommand(const CContextMenuItem& item);
     const std::vector<CContextMenuItem>& requestMenu();
     void choose(const std::vector<std::size_t>& path);
 };

@@ -149,6 +149,9 @@ void CEntityCommands::rename(const CCommandLine& line, std::ostream& out)
 void CEntityCommands::deleteSelection(std::ostream& out)
 {
     const EntityIdList selection = requireSelection();
+    const host::CTopicEditor topics(session_.getProject());
+    if (std::ranges::all_of(selection, [&topics](const EntityId& id) { return topics.isTopic(id); }))
+        throw common::EException("Topics are deleted one by one: topics delete NAME.");
     const std::vector<std::string> names = namesOf(CExplorerLookup(session_), selection);
     const auto& questions = session_.getHostServices().getDialogService().getQuestions();
     const std::size_t questionsBefore = questions.size();
@@ -239,6 +242,9 @@ EntityIdList CEntityCommands::requireSelection() const
 void CEntityCommands::runCommand(int command, std::string_view what)
 {
     host::CGui& gui = session_.getGui();
+    // The host's own reason, when the selection holds nothing the command acts on, says the most.
+    if (std::optional<std::string> refusal = gui.targetRefusal(command))
+        throw common::EException(std::move(*refusal));
     if (!gui.canRunCommand(command))
         throw common::EException(fmt::format("{} is not available now.", what));
     gui.runCommand(command);

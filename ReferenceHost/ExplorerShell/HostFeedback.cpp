@@ -79,7 +79,7 @@ void CHostFeedback::writeProperties(std::ostream& out) const
     if (!request || !session_.hasProject())
         return;
     model::CProject& project = session_.getProject();
-    const std::vector<CTopic> topics = project.getTopics();
+    const std::vector<CTopic> topics = project.getProjectTopics();
     const CExplorerLookup lookup(session_);
     for (const EntityId& id : lookup.inTreeOrder(request->entities))
     {

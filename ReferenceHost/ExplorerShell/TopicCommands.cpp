@@ -4,7 +4,6 @@
 #include "AecModel/Project.h"
 #include "AecModel/WideText.h"
 #include "Common/Exception.h"
-#include "Common/LogicalCompare.h"
 #include "ExplorerShell/CommandLine.h"
 #include "ExplorerShell/CommandTable.h"
 #include "ExplorerShell/ExplorerLookup.h"
@@ -14,7 +13,6 @@
 #include "aec/Transaction.h"
 #include "aec/TransactionHost.h"
 
-#include <algorithm>
 #include <fmt/format.h>
 #include <ostream>
 
@@ -71,13 +69,12 @@ void CTopicCommands::run(const CCommandLine& line, std::ostream& out)
 
 void CTopicCommands::list(std::ostream& out)
 {
-    std::vector<CTopic> topics = session_.getProject().getTopics();
-    std::ranges::sort(topics, common::LogicalLess(),
-                      [](const CTopic& topic) { return std::wstring_view(topic.getName()); });
+    // The project's topic choices come in natural order; the one without identifier is no topic.
     host::CTopicEditor editor(session_.getProject());
-    for (const CTopic& topic : topics)
-        out << CCommandLine::quote(model::toUtf8(topic.getName())) << '\t'
-            << editor.memberCount(topic.getId()) << '\n';
+    for (const CTopic& topic : session_.getProject().getTopics())
+        if (!topic.getId().isNull())
+            out << CCommandLine::quote(model::toUtf8(topic.getName())) << '\t'
+                << editor.memberCount(topic.getId()) << '\n';
 }
 
 void CTopicCommands::remove(const CCommandLine& line, std::ostream& out)
@@ -86,22 +83,11 @@ void CTopicCommands::remove(const CCommandLine& line, std::ostream& out)
     const EntityId id = lookup.findEntity(line.getArgument(1).text);
     if (session_.getProject().findEntity(id)->getCollection() != EntityCollection::Topics)
         throw common::EException(fmt::format("{} is no topic.", lookup.quotedName(id)));
-    const TopicId topic(id.uuid());
-    host::CTopicEditor editor(session_.getProject());
     const std::string name = lookup.quotedName(id);
-    const std::size_t members = editor.memberCount(topic);
-    const DialogAnswer answer = session_.getHostServices().getDialogService().ask(
-        L"Delete topic",
-        model::fromUtf8(fmt::format("Delete the topic {}? {} {} it and will have no topic.", name, members,
-                                    members == 1 ? "entity has" : "entities have")),
-        dialogButtonsYesNo);
-    if (answer != DialogAnswer::Yes)
-    {
-        out << "kept: topic " << name << '\n';
-        return;
-    }
-    editor.remove(topic);
-    out << "deleted: topic " << name << '\n';
+    host::CTopicEditor editor(session_.getProject());
+    const bool removed =
+        editor.removeAfterAsking({TopicId(id.uuid())}, session_.getHostServices().getDialogService());
+    out << (removed ? "deleted: topic " : "kept: topic ") << name << '\n';
 }
 
 void CTopicCommands::clearSelectionTopic(std::ostream& out)

@@ -166,9 +166,8 @@ TEST_F(UserWorkTest, TopicsAreMadeListedDeletedAndCleared)
                 return session.getProject().findEntity(id)->getTopic();
         return std::optional<TopicId>();
     };
-    EXPECT_EQ(run("topics delete Structure"),
-              "asked: Delete the topic \"Structure\"? 10 entities have it and "
-              "will have no topic.\nkept: topic \"Structure\"\n");
+    EXPECT_EQ(run("topics delete Structure"), "asked: Delete the topic “Structure”? 10 entities have it and "
+                                              "will have no topic.\nkept: topic \"Structure\"\n");
     EXPECT_TRUE(topicOf(L"Sheet S-1").has_value());
     run("answer yes");
     run("topics delete Structure");

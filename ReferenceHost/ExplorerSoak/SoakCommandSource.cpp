@@ -215,7 +215,7 @@ std::string CSoakCommandSource::quotedNameOf(std::size_t collection)
 
 std::string CSoakCommandSource::randomTopicName()
 {
-    const std::vector<CTopic> topics = session_.getProject().getTopics();
+    const std::vector<CTopic> topics = session_.getProject().getProjectTopics();
     if (topics.empty())
         return "\"No topic\"";
     return shell::CCommandLine::quote(model::toUtf8(topics[below(topics.size())].getName()));

@@ -247,9 +247,9 @@ std::optional<std::string> CExplorerConsistencyCheck::findCommandDifference() co
         return std::nullopt;
     const bool selected = !explorer_.getEntitySelection().getSelection().empty();
     for (const auto& [command, name] : {std::pair{commands::copy, "Copy"}, std::pair{commands::cut, "Cut"}})
-        if (gui_->isCommandEnabled(command) != selected)
+        if (gui_->isCommandEnabledByOwner(command) != selected)
             return fmt::format("{} is {} while {} selected", name,
-                               gui_->isCommandEnabled(command) ? "enabled" : "disabled",
+                               gui_->isCommandEnabledByOwner(command) ? "enabled" : "disabled",
                                selected ? "entities are" : "nothing is");
     const bool pasteable = clipboard_->hasData(clipboardFormatProjectEntities);
     if (gui_->isCommandEnabled(commands::paste) != pasteable)

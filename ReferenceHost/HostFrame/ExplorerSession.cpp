@@ -10,6 +10,7 @@
 #include "HostFrame/GuiProvider.h"
 #include "HostFrame/PanelOwner.h"
 #include "HostFrame/ProjectBinding.h"
+#include "HostFrame/SelectionCommandTargets.h"
 #include "HostFrame/ServiceDecorator.h"
 #include "HostFrame/StatusService.h"
 #include "HostFrame/UnusedUuidProvider.h"
@@ -53,6 +54,8 @@ CExplorerSession::CExplorerSession(std::optional<std::uint64_t> uuidSeed, IServi
         guiProvider_ = std::make_unique<CGuiProvider>();
         panel_ = &guiProvider_->providePanel(*panelOwner_);
         registerSortButtons();
+        commandTargets_ = std::make_unique<CSelectionCommandTargets>(*this);
+        commandTargets_->install(*gui_);
 
         CHostServices& host = *hostServices_;
         const ApplicationServiceSet hostSet{host.getClipboard(),

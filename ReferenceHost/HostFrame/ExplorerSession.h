@@ -40,6 +40,7 @@ class CGui;
 class CGuiProvider;
 class CHostServices;
 class CPanelOwner;
+class CSelectionCommandTargets;
 class CProjectBinding;
 class CStatusService;
 class IServiceDecorator;
@@ -128,6 +129,7 @@ private:
     std::unique_ptr<IProjectExplorerViewCreator> viewCreator_;
     std::unique_ptr<IProjectExplorerEntityControllerFactory> controllerFactory_;
     std::unique_ptr<CProjectBinding> binding_;
+    std::unique_ptr<CSelectionCommandTargets> commandTargets_;
 };
 
 } // namespace aec::host

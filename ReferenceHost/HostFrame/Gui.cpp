@@ -83,7 +83,26 @@ void CGui::enableCommand(int command, bool enabled)
 
 bool CGui::isCommandEnabled(int command) const
 {
+    return isCommandEnabledByOwner(command) && !targetRefusal(command);
+}
+
+bool CGui::isCommandEnabledByOwner(int command) const
+{
     return !disabledCommands_.contains(command);
+}
+
+void CGui::setTargetCheck(int command, TargetCheck check)
+{
+    if (check)
+        targetChecks_[command] = std::move(check);
+    else
+        targetChecks_.erase(command);
+}
+
+std::optional<std::string> CGui::targetRefusal(int command) const
+{
+    const auto check = targetChecks_.find(command);
+    return check == targetChecks_.end() ? std::nullopt : check->second();
 }
 
 void CGui::runCommand(int command)
@@ -91,8 +110,10 @@ void CGui::runCommand(int command)
     const auto handler = commandHandlers_.find({command, defaultVariant});
     if (handler == commandHandlers_.end())
         throw common::EException(fmt::format("Command {} cannot run here: nothing handles it now.", command));
-    if (!isCommandEnabled(command))
+    if (!isCommandEnabledByOwner(command))
         throw common::EException(fmt::format("Command {} is disabled now.", command));
+    if (std::optional<std::string> refusal = targetRefusal(command))
+        throw common::EException(std::move(*refusal));
     // The handler may remove itself (a command that ends the activity that registered it).
     const CommandHandler run = handler->second;
     run();

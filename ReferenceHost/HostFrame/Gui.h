@@ -6,6 +6,7 @@
 #include <boost/signals2/signal.hpp>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <optional>
 #include <set>
@@ -28,6 +29,9 @@ namespace aec::host
 // - A command is enabled until it is disabled; availability and claim are display states that
 //   do not stop a command from running. Running a command that has no handler of variant 0, or
 //   that is disabled, throws common::EException saying so, and runs nothing.
+// - The host may add its own check of what a command would act on (a check of the selection):
+//   while the check has a reason against it, the command is disabled whatever its handler's owner
+//   said, and running it throws that reason.
 // - A second handler for the same (command, variant), a second callback for the same button and a
 //   second registration of the same notification are contract violations: two owners would fight
 //   over one thing. So are removals of what is not registered.
@@ -50,6 +54,8 @@ public:
     using ContextMenuShownSignal =
         boost::signals2::signal<void(const std::vector<CContextMenuItem>&, const MbCartPoint&)>;
     using ButtonChangedSignal = boost::signals2::signal<void(std::uint32_t panel, std::uint32_t button)>;
+    // Why the command has nothing to act on now, in a sentence for the user; nothing when it has.
+    using TargetCheck = std::function<std::optional<std::string>()>;
 
     static constexpr std::wstring_view ascendingValue = L"1";
     static constexpr std::wstring_view descendingValue = L"2";
@@ -66,6 +72,7 @@ public:
     void setContextMenuHandler(ContextMenuHandler handler) override;
     void clearContextMenuHandler() override;
     void enableCommand(int command, bool enabled) override;
+    // Enabled by its owner and not refused by the host's target check.
     bool isCommandEnabled(int command) const override;
     // Runs the handler of variant 0; throws common::EException when there is none or the command
     // is disabled.
@@ -101,6 +108,8 @@ public:
     // Makes the button a sort-order button: it offers "1" and "2" with these labels from now on.
     void registerSortButton(std::uint32_t panel, std::uint32_t button, const std::wstring& ascendingLabel,
                             const std::wstring& descendingLabel);
+    // Installs (or, with null, removes) the host's check of what the command would act on.
+    void setTargetCheck(int command, TargetCheck check);
     // Tells the registered notification, if any.
     void notifyDocumentActivated(unsigned long documentKey);
     void notifyDocumentClosing(unsigned long documentKey);
@@ -108,6 +117,10 @@ public:
     // What a host program shows, and what tests check.
 
     bool hasCommandHandler(int command, int variant = 0) const;
+    // What the owner of the command's handler last said through enableCommand.
+    bool isCommandEnabledByOwner(int command) const;
+    // The target check's reason against the command now, if it has one.
+    std::optional<std::string> targetRefusal(int command) const;
     // Whether anything handles the command now and it is enabled.
     bool canRunCommand(int command) const;
     // True until set false.
@@ -145,6 +158,7 @@ private:
     std::set<int> disabledCommands_;
     std::set<int> unavailableCommands_;
     std::set<int> claimedCommands_;
+    std::map<int, TargetCheck> targetChecks_;
     ContextMenuHandler contextMenuHandler_;
     std::vector<CContextMenuItem> lastContextMenu_;
     MbCartPoint lastContextMenuPoint_;

@@ -4,8 +4,11 @@
 #include "AecModel/EntityNameRule.h"
 #include "AecModel/Project.h"
 #include "AecModel/UniqueNameGenerator.h"
-#include "Common/Check.h"
+#include "AecModel/WideText.h"
 #include "Common/Exception.h"
+#include "aec/GeneralPurposeDialogService.h"
+
+#include <fmt/format.h>
 
 namespace aec::host
 {
@@ -25,15 +28,16 @@ const model::CEntity& existingTopic(const model::CProject& project, const TopicI
 
 CTopicEditor::CTopicEditor(model::CProject& project) : project_(project) {}
 
-TopicId CTopicEditor::create(const std::wstring& name)
+TopicId CTopicEditor::create(const std::optional<std::wstring>& name)
 {
     const std::unique_ptr<ITransaction> transaction =
         project_.getTransactionHost().openTransaction("Create topic");
     model::CUniqueNameGenerator names(project_, EntityCollection::Topics);
     const TopicId topic = project_.addTopic(names.takeNumbered(model::entityNoun(EntityCollection::Topics)));
     // Named by the rule's own check, so that a refused name gives the message a rename gives.
-    project_.renameEntity(EntityId(topic.uuid()),
-                          model::acceptableName(project_, existingTopic(project_, topic), name));
+    if (name)
+        project_.renameEntity(EntityId(topic.uuid()),
+                              model::acceptableName(project_, existingTopic(project_, topic), *name));
     transaction->commit();
     return topic;
 }
@@ -48,13 +52,36 @@ void CTopicEditor::rename(const TopicId& topic, const std::wstring& newName)
     transaction->commit();
 }
 
-void CTopicEditor::remove(const TopicId& topic)
+void CTopicEditor::remove(const std::vector<TopicId>& topics)
 {
-    const model::CEntity& entity = existingTopic(project_, topic);
+    for (const TopicId& topic : topics)
+        existingTopic(project_, topic);
     const std::unique_ptr<ITransaction> transaction =
         project_.getTransactionHost().openTransaction("Delete topic");
-    project_.removeEntity(entity.getId());
+    for (const TopicId& topic : topics)
+        project_.removeEntity(EntityId(topic.uuid()));
     transaction->commit();
+}
+
+bool CTopicEditor::removeAfterAsking(const std::vector<TopicId>& topics,
+                                     const IGeneralPurposeDialogService& dialogs)
+{
+    if (topics.empty())
+        throw common::EException("Select the topics to delete first.");
+    std::size_t members = 0;
+    for (const TopicId& topic : topics)
+        members += memberCount(topic);
+    const std::string what =
+        topics.size() == 1
+            ? fmt::format("the topic “{}”", model::toUtf8(existingTopic(project_, topics.front()).getName()))
+            : fmt::format("{} topics", topics.size());
+    const std::string question =
+        fmt::format("Delete {}? {} {} {} and will have no topic.", what, members,
+                    members == 1 ? "entity has" : "entities have", topics.size() == 1 ? "it" : "them");
+    if (dialogs.ask(L"Delete topic", model::fromUtf8(question), dialogButtonsYesNo) != DialogAnswer::Yes)
+        return false;
+    remove(topics);
+    return true;
 }
 
 std::size_t CTopicEditor::memberCount(const TopicId& topic) const
@@ -66,6 +93,12 @@ std::size_t CTopicEditor::memberCount(const TopicId& topic) const
                 if (project_.findEntity(id)->getTopic() == topic)
                     ++count;
     return count;
+}
+
+bool CTopicEditor::isTopic(const EntityId& entity) const
+{
+    const model::CEntity* const found = project_.findEntity(entity);
+    return found != nullptr && found->getCollection() == EntityCollection::Topics;
 }
 
 } // namespace aec::host

@@ -5,7 +5,14 @@
 #include "aec/Topic.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
+#include <vector>
+
+namespace aec
+{
+class IGeneralPurposeDialogService;
+} // namespace aec
 
 namespace aec::model
 {
@@ -24,13 +31,19 @@ class HOSTFRAME_API CTopicEditor
 public:
     explicit CTopicEditor(model::CProject& project);
 
-    TopicId create(const std::wstring& name);
+    // Without a name the topic is named "Topic N", the first number no topic has.
+    TopicId create(const std::optional<std::wstring>& name = std::nullopt);
     void rename(const TopicId& topic, const std::wstring& newName);
-    // The entities that had the topic keep no topic.
-    void remove(const TopicId& topic);
+    // The entities that had the topics keep no topic; one undo step for all of them.
+    void remove(const std::vector<TopicId>& topics);
+    // Asks the dialog service first (how many entities lose their topic) and removes the topics
+    // only on yes; whether it removed them.
+    bool removeAfterAsking(const std::vector<TopicId>& topics, const IGeneralPurposeDialogService& dialogs);
 
     // How many entities have the topic, for the question before deleting it.
     std::size_t memberCount(const TopicId& topic) const;
+    // Whether the entity is one of the project's topics.
+    bool isTopic(const EntityId& entity) const;
 
 private:
     model::CProject& project_;

@@ -169,8 +169,8 @@ TEST_F(ExplorerPanelTest, AnEventRebuildsExactlyTheGroupsOfTheTouchedCollections
 TEST_F(ExplorerPanelTest, TopicChangesRebuildTheGroupsGroupedByTopic)
 {
     group(L"Sheets").getGroupingModel().setGroupingKey(PropertyAssignmentKey::topic());
-    const TopicId topic = project->getTopics().front().getId();
-    const std::wstring topicName = project->getTopics().front().getName();
+    const TopicId topic = project->getProjectTopics().front().getId();
+    const std::wstring topicName = project->getProjectTopics().front().getName();
     ASSERT_THAT(subgroupNames(L"Sheets"), Contains(topicName));
     const EntityId unseenSheet = project->addEntity(EntityCollection::Sheets, L"Sheet X-1");
     const EntityId unseenTable = project->addEntity(EntityCollection::Tables, L"Table X-1");

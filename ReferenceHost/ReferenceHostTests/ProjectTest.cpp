@@ -1,15 +1,13 @@
 #include "AecModel/Project.h"
 
+#include "Common/AssertionViolation.h"
+#include "Common/Exception.h"
+#include "CommonTests/ViolationSite.h"
 #include "aec/EntityTypes.h"
 #include "aec/PropertyAssignmentKey.h"
 #include "aec/Transaction.h"
 
-#include "Common/AssertionViolation.h"
-#include "Common/Exception.h"
-#include "CommonTests/ViolationSite.h"
-
 #include <gtest/gtest.h>
-
 #include <string>
 #include <variant>
 
@@ -30,8 +28,8 @@ TEST(ProjectTest, EntitiesKeepTheirCollectionAndTopic)
     EXPECT_FALSE(wall.isNull());
     EXPECT_EQ(project.getEntities(EntityCollection::Assemblies), (EntityIdList{beam, wall}));
     EXPECT_EQ(project.getEntities(EntityCollection::Topics), (EntityIdList{EntityId(topic.uuid())}));
-    ASSERT_EQ(project.getTopics().size(), 1u);
-    EXPECT_EQ(project.getTopics()[0].getName(), L"Structure");
+    ASSERT_EQ(project.getProjectTopics().size(), 1u);
+    EXPECT_EQ(project.getProjectTopics()[0].getName(), L"Structure");
 
     const CEntity& entity = *project.findEntity(beam);
     EXPECT_EQ(entity.getType(), entity_types::assembly());
@@ -55,8 +53,44 @@ TEST(ProjectTest, TopicSetThroughTheEntityIsUndoable)
         transaction->commit();
     }
     EXPECT_EQ(project.findEntity(door)->getTopic(), topic);
+
+    // The nil topic, the "(No topic)" choice, takes the topic away in a step of its own.
+    {
+        auto transaction = project.getTransactionHost().openTransaction("Change entities topic");
+        project.prepareTopicChange({entity}, TopicId());
+        dynamic_cast<IEntityWithTopic&>(*entity).setTopic(TopicId());
+        transaction->commit();
+    }
+    EXPECT_EQ(project.findEntity(door)->getTopic(), std::nullopt);
+    project.getUndoHistory().undo();
+    EXPECT_EQ(project.findEntity(door)->getTopic(), topic);
     project.getUndoHistory().undo();
     EXPECT_EQ(project.findEntity(door)->getTopic(), std::nullopt);
+
+    const EntityId image = project.addEntity(EntityCollection::Images, L"Photo");
+    EXPECT_THROW(project.prepareTopicChange({project.findEntity(image)}, TopicId()), common::EException)
+        << "an image has no topic to lose";
+}
+
+TEST(ProjectTest, TopicChoicesStartWithNoTopicAndFollowNaturalOrder)
+{
+    CProject project;
+    const TopicId ten = project.addTopic(L"Level 10");
+    const TopicId two = project.addTopic(L"level 2");
+    const TopicId one = project.addTopic(L"Level 1");
+    const std::vector<CTopic> choices = project.getTopics();
+    std::vector<std::wstring> names;
+    std::vector<TopicId> ids;
+    for (const CTopic& topic : choices)
+    {
+        names.push_back(topic.getName());
+        ids.push_back(topic.getId());
+    }
+    EXPECT_EQ(names, (std::vector<std::wstring>{L"(No topic)", L"Level 1", L"level 2", L"Level 10"}));
+    EXPECT_EQ(ids, (std::vector<TopicId>{TopicId(), one, two, ten}));
+    ASSERT_EQ(project.getProjectTopics().size(), 3u);
+    EXPECT_EQ(project.getProjectTopics().front().getId(), ten)
+        << "the topics themselves keep collection order";
 }
 
 TEST(ProjectTest, RemovingATopicTakesItFromItsEntities)

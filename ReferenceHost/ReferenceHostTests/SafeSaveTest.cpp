@@ -4,14 +4,19 @@
 #include "Common/Exception.h"
 #include "TemporaryDirectory.h"
 
+#include <array>
+#include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <utility>
 #ifndef _WIN32
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 #endif
 
@@ -66,12 +71,66 @@ TEST_F(SafeSaveTest, AFileIsReplacedAndAFolderRefusedWithoutLeftovers)
     EXPECT_EQ(namesInFolder(), std::vector<std::string>{"project.json"});
 }
 
+#if !defined(_WIN32) && defined(EXPLORER_SHELL_PROGRAM)
+// The command that runs a program as a user without privileges, for the superuser, who may write
+// any file: setpriv as the user "nobody", else a user namespace of its own, in which the files of
+// the real superuser are no one's to override. Empty when the system has neither.
+std::string unprivilegedPrefix()
+{
+    if (std::system("command -v setpriv >/dev/null 2>&1") == 0)
+        return "setpriv --reuid=65534 --regid=65534 --clear-groups ";
+    if (std::system("unshare --user true >/dev/null 2>&1") == 0)
+        return "unshare --user ";
+    return {};
+}
+
+// Runs the shell line through the system's shell; the merged output and the exit status.
+std::pair<std::string, int> runCommand(const std::string& line)
+{
+    std::string output;
+    FILE* const pipe = ::popen((line + " 2>&1").c_str(), "r");
+    if (pipe == nullptr)
+        return {"cannot start: " + line, -1};
+    std::array<char, 4096> buffer{};
+    while (const std::size_t read = std::fread(buffer.data(), 1, buffer.size(), pipe))
+        output.append(buffer.data(), read);
+    const int status = ::pclose(pipe);
+    return {output, WIFEXITED(status) ? WEXITSTATUS(status) : -1};
+}
+#endif
+
 TEST_F(SafeSaveTest, AReadOnlyFileIsRefused)
 {
-#ifndef _WIN32
-    // The superuser may write any file; the refusal is for everyone else.
+#if !defined(_WIN32) && defined(EXPLORER_SHELL_PROGRAM)
     if (::geteuid() == 0)
-        GTEST_SKIP() << "running as the superuser";
+    {
+        // The superuser may write any file; the refusal is for everyone else, so the terminal
+        // program saves as someone else, in a folder that user may write to: only the file itself
+        // is read-only, and the program must see that before it writes anything.
+        const std::string prefix = unprivilegedPrefix();
+        if (prefix.empty())
+            GTEST_SKIP()
+                << "running as the superuser, and neither setpriv nor a user namespace (unshare) can "
+                   "drop the privilege to write any file";
+        fs::permissions(directory, fs::perms(0777));
+        const fs::path readOnly = temporary.write("read-only.json", "old");
+        fs::permissions(readOnly, fs::perms(0444));
+        const fs::path script = temporary.write("save.shell", "save " + readOnly.string() + "\n");
+        const auto [output, status] =
+            runCommand(prefix + EXPLORER_SHELL_PROGRAM + " --seed 1 --script " + script.string());
+        EXPECT_EQ(status, 1) << output;
+        EXPECT_NE(output.find("error: "), std::string::npos) << output;
+        EXPECT_NE(output.find("you may not write it"), std::string::npos) << output;
+        EXPECT_EQ(read(readOnly), "old");
+        EXPECT_EQ(fs::status(readOnly).permissions(), fs::perms(0444));
+        EXPECT_EQ(namesInFolder(), (std::vector<std::string>{"read-only.json", "save.shell"}));
+        fs::permissions(readOnly, fs::perms(0644));
+        return;
+    }
+#elif !defined(_WIN32)
+    if (::geteuid() == 0)
+        GTEST_SKIP()
+            << "running as the superuser, and this build has no terminal program to run as another user";
 #endif
     const fs::path readOnly = temporary.write("read-only.json", "old");
     fs::permissions(readOnly, fs::perms(0444));

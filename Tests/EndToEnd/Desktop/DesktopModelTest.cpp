@@ -163,15 +163,27 @@ private Q_SLOTS:
         VERIFY_MODEL_MIRRORS_EXPLORER();
     }
 
-    // A refused rename reaches the user through the window's message box, tested there.
-    void topicsAreNotRenamable()
+    // Topics are renamed by the host itself; linked models and images are named after their files.
+    void topicsAreRenamableAndFilesAreNot()
     {
         const std::string before = session_->getProject().canonicalDump();
-        const QModelIndex topic = entityIndex(L"Structure");
-        QVERIFY(!(model_->flags(topic) & Qt::ItemIsEditable));
-        QVERIFY(!model_->setData(topic, QString("Statics")));
-        QCOMPARE(failures_->count(), 0);
+        for (const std::wstring name : {L"Site model", L"Logo"})
+        {
+            const QModelIndex row = entityIndex(name);
+            QVERIFY(!(model_->flags(row) & Qt::ItemIsEditable));
+            QVERIFY(!model_->setData(row, QString("Renamed")));
+        }
         QCOMPARE(session_->getProject().canonicalDump(), before);
+
+        const QModelIndex topic = entityIndex(L"Structure");
+        QVERIFY(model_->flags(topic) & Qt::ItemIsEditable);
+        QVERIFY2(!model_->setData(topic, QString("architecture")), "another topic's name, to the user");
+        QCOMPARE(failures_->count(), 1);
+        QCOMPARE(session_->getProject().canonicalDump(), before);
+        QVERIFY(model_->setData(topic, QString("Statics")));
+        QCOMPARE(entityIndex(L"Statics").data(Qt::EditRole).toString(), QString("Statics"));
+        QCOMPARE(session_->getUndoHistory().getUndoNames(), std::vector<std::string>{"Rename topic"});
+        VERIFY_MODEL_MIRRORS_EXPLORER();
     }
 
     // Rows go, come back and move between subgroups; the rows that a paste or an import adds come

@@ -16,6 +16,9 @@
 #include "ExplorerDesktop/StatusCounts.h"
 #include "ExplorerDesktop/SystemClipboardBridge.h"
 #include "HostFrame/ExplorerSession.h"
+#include "HostFrame/Gui.h"
+#include "aec/ContextMenuItem.h"
+#include "aec/MbCartPoint.h"
 #include "aec/ProjectExplorer.h"
 #include "aec/ProjectExplorerGroup.h"
 #include "aec/ProjectExplorerGroupInfo.h"
@@ -31,14 +34,17 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 #include <memory>
 #include <nlohmann/json.hpp>
+#include <vector>
 
 namespace aec::desktop
 {
 
 // The main window's tree as users work it: the name filter, unfolding and folding everything, the
-// group's context menu and Shift+F10, dragging entities onto a topic, the desktop's clipboard
+// group's context menu and Shift+F10, the change-topic submenu, dragging entities onto a topic, the
+// desktop's clipboard through Ctrl+C and Ctrl+V
 // between two windows, icons, tooltips and counts, and a project that does not open. A model
 // tester watches the explorer's item model (and the filter over it) through every action.
 class DesktopTreeTest : public QObject
@@ -194,17 +200,12 @@ private Q_SLOTS:
         tree.setFocus();
         tree.setCurrentIndex(entityIndex(L"Glass 8mm"));
         QKeySequence copyKey;
-        QTimer::singleShot(0, this,
-                           [&copyKey]
-                           {
-                               auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-                               if (menu == nullptr)
-                                   return;
-                               for (QAction* const item : menu->actions())
-                                   if (item->text().remove('&') == "Copy")
-                                       copyKey = item->shortcut();
-                               menu->close();
-                           });
+        readNextPopup(
+            [&copyKey](const QAction& item)
+            {
+                if (QString(item.text()).remove('&') == "Copy")
+                    copyKey = item.shortcut();
+            });
         QTest::keyClick(&tree, Qt::Key_F10, Qt::ShiftModifier);
         QCOMPARE(copyKey, QKeySequence(QKeySequence::Copy));
     }
@@ -254,7 +255,8 @@ private Q_SLOTS:
                                                         QItemSelectionModel::ClearAndSelect);
         window_->getTreeView().selectionModel()->select(entityIndex(L"Brick 240"),
                                                         QItemSelectionModel::Select);
-        window_->getAction("copy").trigger();
+        window_->getTreeView().setFocus();
+        QTest::keySequence(&window_->getTreeView(), QKeySequence::Copy);
         const QMimeData* const shared = QGuiApplication::clipboard()->mimeData();
         QVERIFY(shared != nullptr && shared->hasFormat(CSystemClipboardBridge::mimeType));
         QStringList names = shared->text().split('\n');
@@ -264,12 +266,70 @@ private Q_SLOTS:
         QTRY_VERIFY(other.getAction("paste").isEnabled());
         const std::size_t materials =
             otherSession.getProject().getEntities(EntityCollection::Materials).size();
-        other.getAction("paste").trigger();
+        other.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&other));
+        other.getTreeView().setFocus();
+        QTest::keySequence(&other.getTreeView(), QKeySequence::Paste);
         QCOMPARE(otherSession.getProject().getEntities(EntityCollection::Materials).size(), materials + 2);
 
         QGuiApplication::clipboard()->setText("Glass 8mm");
         QTRY_VERIFY(!other.getAction("paste").isEnabled());
         QVERIFY(!window_->getAction("paste").isEnabled());
+    }
+
+    void theChangeTopicMenuOffersNoTopicFirstAndChecksTheCurrentOne()
+    {
+        CExplorerTreeView& tree = window_->getTreeView();
+        window_->getAction("expandAll").trigger();
+        const auto choices = [this, &tree]
+        {
+            QStringList shown;
+            readNextPopup(
+                [&shown](const QAction& item)
+                {
+                    if (item.menu() != nullptr && item.text() == "Change topic")
+                        for (QAction* const topic : item.menu()->actions())
+                            shown << topic->text().replace("&&", "&") +
+                                         (topic->isChecked() ? " (checked)" : "");
+                });
+            // A right click on a selected row.
+            const QModelIndex clicked = tree.selectionModel()->selectedIndexes().front();
+            tree.scrollTo(clicked);
+            Q_EMIT tree.customContextMenuRequested(tree.visualRect(clicked).center());
+            return shown;
+        };
+        const auto choose = [this](const std::vector<std::wstring>& names)
+        {
+            QItemSelectionModel& selection = *window_->getTreeView().selectionModel();
+            selection.select(entityIndex(names.front()), QItemSelectionModel::ClearAndSelect);
+            for (const std::wstring& name : names)
+                selection.select(entityIndex(name), QItemSelectionModel::Select);
+        };
+        choose({L"Rebar 8"});
+        QCOMPARE(choices(), (QStringList{"(No topic)", "Architecture", "Façades", "landscape", "level 2",
+                                         "Level 10", "MEP services", "Structure (checked)"}));
+        choose({L"Mesh Q257"});
+        QCOMPARE(choices().first(), QString("(No topic) (checked)"));
+        choose({L"Rebar 8", L"Mesh Q188"});
+        QVERIFY2(!choices().join(',').contains("checked"), "the selected entities have different topics");
+
+        // "(No topic)" takes the topic away through the explorer's change of topic: one undo step.
+        choose({L"Rebar 8"});
+        host::CGui& gui = session_->getGui();
+        gui.requestContextMenu(MbCartPoint{0.0, 0.0});
+        const auto submenu = std::ranges::find(gui.getLastContextMenu(), std::wstring(L"Change topic"),
+                                               &CContextMenuItem::getText);
+        QVERIFY(submenu != gui.getLastContextMenu().end());
+        const std::size_t submenuIndex = static_cast<std::size_t>(submenu - gui.getLastContextMenu().begin());
+        QVERIFY(window_->getCommandRunner().run(
+            [&] {
+                gui.chooseContextMenuItem(std::vector{submenuIndex, std::size_t{0}});
+            }));
+        QCOMPARE(session_->getProject().findEntity(entityId(L"Rebar 8"))->getTopic(), std::nullopt);
+        QCOMPARE(window_->getAction("undo").text(),
+                 QString("&Undo Change the topic of reinforcement style “Rebar 8”"));
+        window_->getAction("undo").trigger();
+        QVERIFY(session_->getProject().findEntity(entityId(L"Rebar 8"))->getTopic().has_value());
     }
 
     void entitiesShowTheirKindTopicAndCounts()
@@ -316,6 +376,22 @@ private Q_SLOTS:
     }
 
 private:
+    // Reads each action of the next popup menu once it shows, then closes it.
+    template <class Read>
+    void readNextPopup(Read read)
+    {
+        QTimer::singleShot(0, this,
+                           [read]
+                           {
+                               auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+                               if (menu == nullptr)
+                                   return;
+                               for (const QAction* const item : menu->actions())
+                                   read(*item);
+                               menu->close();
+                           });
+    }
+
     void typeFilter(const QString& text)
     {
         QLineEdit& box = window_->getFilterBox();

@@ -9,17 +9,21 @@
 #include "ExplorerDesktop/ExplorerItemModel.h"
 #include "ExplorerDesktop/ExplorerSelectionModel.h"
 #include "ExplorerDesktop/ExplorerTreeView.h"
+#include "ExplorerDesktop/GroupContextMenu.h"
 #include "ExplorerDesktop/GroupingBar.h"
 #include "ExplorerDesktop/MainWindow.h"
 #include "ExplorerDesktop/PropertiesDialog.h"
+#include "ExplorerDesktop/TableCellsModel.h"
 #include "ExplorerDesktop/TableImportPreviewDialog.h"
 #include "HostChecks/RefusingProjectObserver.h"
-#include "ExplorerDesktop/TableCellsModel.h"
 #include "HostFrame/ExplorerPanel.h"
 #include "HostFrame/ExplorerSession.h"
 #include "HostFrame/GroupingButtons.h"
+#include "HostFrame/Gui.h"
 #include "HostServices/HostServices.h"
+#include "aec/ContextMenuItem.h"
 #include "aec/EntityTypes.h"
+#include "aec/MbCartPoint.h"
 #include "aec/ProjectExplorer.h"
 #include "aec/ProjectExplorerEntityController.h"
 #include "aec/ProjectExplorerGroup.h"
@@ -185,6 +189,69 @@ private Q_SLOTS:
         QVERIFY(!rename.isEnabled());
     }
 
+    void topicsAreMadeRenamedAndDeletedInOneStepEach()
+    {
+        CExplorerTreeView& tree = window_->getTreeView();
+        CExplorerItemModel& model = window_->getModel();
+        model::CProject& project = session_->getProject();
+        QAction& undo = window_->getAction("undo");
+        const QModelIndex topicsGroup = model.index(7, 0);
+        QCOMPARE(topicsGroup.data(Qt::EditRole).toString(), QString("Topics"));
+
+        // The group's "New" makes a topic and opens its name for editing.
+        CGroupContextMenu menu(topicsGroup, model, tree, *session_, window_->getCommandRunner());
+        auto* const make = menu.findChild<QAction*>("newEntity");
+        QVERIFY(make != nullptr);
+        QCOMPARE(make->text(), QString("New &topic"));
+        const std::size_t topicsBefore = project.getProjectTopics().size();
+        make->trigger();
+        QCOMPARE(project.getProjectTopics().size(), topicsBefore + 1);
+        QVERIFY(undo.text().startsWith("&Undo Create topic “"));
+        QVERIFY(tree.isEditing());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+
+        // F2 on a topic opens its name; Enter commits the name and opens nothing.
+        tree.setFocus();
+        tree.setCurrentIndex(entityIndex(L"Structure"));
+        const EntityId structure = model.nodeAt(entityIndex(L"Structure"))->getEntity();
+        const EntityId rebar = model.nodeAt(entityIndex(L"Rebar 8"))->getEntity();
+        QTest::keyClick(&tree, Qt::Key_F2);
+        QVERIFY2(tree.isEditing(), "F2 renames a topic");
+        auto* const editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+        QVERIFY(editor != nullptr);
+        editor->setText("Load-bearing");
+        QTest::keyClick(editor, Qt::Key_Return);
+        QTRY_COMPARE(QString::fromStdWString(project.findEntity(structure)->getName()),
+                     QString("Load-bearing"));
+        QCOMPARE(window_->getDocumentArea().count(), 0);
+        QCOMPARE(undo.text(), QString("&Undo Rename topic “Load-bearing”"));
+
+        // Delete asks; its entities keep no topic, and one undo brings topic and members back.
+        tree.setCurrentIndex(entityIndex(L"Load-bearing"));
+        QVERIFY(window_->getAction("delete").isEnabled());
+        onNextDialog<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::No)->click(); });
+        const std::size_t asked = session_->getHostServices().getDialogService().getQuestions().size();
+        QTest::keyClick(&tree, Qt::Key_Delete);
+        QCOMPARE(session_->getHostServices().getDialogService().getQuestions().size(), asked + 1);
+        QVERIFY2(project.findEntity(structure) != nullptr, "answered No, the topic stays");
+        // The window's keys work again once the question has gone and the window is active again
+        // (which the offscreen platform leaves to the program).
+        window_->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+        onNextDialog<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); });
+        QTest::keyClick(&tree, Qt::Key_Delete);
+        QCOMPARE(session_->getHostServices().getDialogService().getQuestions().size(), asked + 2);
+        QCOMPARE(project.findEntity(structure), nullptr);
+        QCOMPARE(project.findEntity(rebar)->getTopic(), std::nullopt);
+        const std::wstring question =
+            session_->getHostServices().getDialogService().getQuestions().back().text;
+        QVERIFY2(question.find(L"“Load-bearing”") != std::wstring::npos,
+                 qPrintable(QString::fromStdWString(question)));
+        QCOMPARE(undo.text(), QString("&Undo Delete topic “Load-bearing”"));
+        undo.trigger();
+        QCOMPARE(project.findEntity(rebar)->getTopic(), TopicId(structure.uuid()));
+    }
+
     void closingAndOpeningAskBeforeUnsavedChangesAreLost()
     {
         QStringList asked;
@@ -243,6 +310,27 @@ private Q_SLOTS:
         QCOMPARE(dialogs.getQuestions().size(), std::size_t{2});
         QVERIFY(!window_->getModel().indexOfEntity(id).isValid());
         QVERIFY(!remove.isEnabled());
+
+        // What a command cannot act on greys it out: a linked model is neither copied nor deleted
+        // here, a door style not cut; the explorer's menu says the same.
+        QAction& cut = window_->getAction("cut");
+        window_->getTreeView().selectionModel()->select(entityIndex(L"Site model"),
+                                                        QItemSelectionModel::ClearAndSelect);
+        QVERIFY(!copy.isEnabled());
+        QVERIFY(!cut.isEnabled());
+        QVERIFY(!remove.isEnabled());
+        window_->getTreeView().selectionModel()->select(entityIndex(L"Door 1000"),
+                                                        QItemSelectionModel::ClearAndSelect);
+        QVERIFY(copy.isEnabled());
+        QVERIFY(!cut.isEnabled());
+        QVERIFY(!remove.isEnabled());
+        host::CGui& gui = session_->getGui();
+        gui.requestContextMenu(MbCartPoint{0.0, 0.0});
+        QStringList greyed;
+        for (const CContextMenuItem& item : gui.getLastContextMenu())
+            if (!item.isSeparator() && !item.isEnabled())
+                greyed << QString::fromStdWString(item.getText());
+        QCOMPARE(greyed, (QStringList{"Cut", "Delete"}));
     }
 
     void aFailedCommandIsShownAndChangesNothing()
@@ -359,8 +447,8 @@ private Q_SLOTS:
         QTemporaryDir directory;
         QVERIFY(directory.isValid());
         const QString rooms = writeTestFile(directory, "Räume.csv",
-                                        "Raum;Fl\xE4"
-                                        "che;Ebene\r\nB\xFCro 1;24,5;1\r\nFlur;8;1\r\n");
+                                            "Raum;Fl\xE4"
+                                            "che;Ebene\r\nB\xFCro 1;24,5;1\r\nFlur;8;1\r\n");
 
         CTableImportPreviewDialog preview(rooms, window_.get());
         QCOMPARE(preview.getEncoding().currentText(), QString("windows-1252"));
@@ -378,7 +466,7 @@ private Q_SLOTS:
 
         const QString locked =
             writeTestFile(directory, "locked.xlsx",
-                      QByteArray("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1", 8) + QByteArray(504, '\0'));
+                          QByteArray("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1", 8) + QByteArray(504, '\0'));
         CTableImportPreviewDialog refused(locked, window_.get());
         QVERIFY(refused.getSummary().text().contains("encrypted"));
         QVERIFY(!refused.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->isEnabled());
