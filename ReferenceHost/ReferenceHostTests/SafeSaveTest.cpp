@@ -121,7 +121,7 @@ TEST_F(SafeSaveTest, AReadOnlyFileIsRefused)
         EXPECT_EQ(status, 1) << output;
         EXPECT_NE(output.find("error: "), std::string::npos) << output;
         EXPECT_NE(output.find("you may not write it"), std::string::npos) << output;
-        EXPECT_EQ(read(readOnly), "old");
+        EXPECT_EQ(test::CTemporaryDirectory::read(readOnly), "old");
         EXPECT_EQ(fs::status(readOnly).permissions(), fs::perms(0444));
         EXPECT_EQ(namesInFolder(), (std::vector<std::string>{"read-only.json", "save.shell"}));
         fs::permissions(readOnly, fs::perms(0644));
