@@ -1,10 +1,7 @@
-#include "ExplorerShell/ShellCommandInterpreter.h"
-
 #include "AecModel/Project.h"
-#include "AecModel/SampleProject.h"
 #include "AecModel/WideText.h"
 #include "HostChecks/RefusingProjectObserver.h"
-#include "HostFrame/ExplorerSession.h"
+#include "ShellInterpreterTest.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -19,27 +16,10 @@ namespace
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
-// An interpreter over the sample project, reproducible by its seed.
-class ShellCommandInterpreterTest : public ::testing::Test
+class ShellCommandInterpreterTest : public test::CShellInterpreterTest
 {
 protected:
-    ShellCommandInterpreterTest() { session.open(model::buildSampleProject()); }
-
-    // The output of a line that must succeed.
-    std::string run(std::string_view line)
-    {
-        out.str({});
-        EXPECT_TRUE(interpreter.execute(line)) << line << " failed: " << out.str();
-        return out.str();
-    }
-
-    // The error line of a line that must fail.
-    std::string fail(std::string_view line)
-    {
-        out.str({});
-        EXPECT_FALSE(interpreter.execute(line)) << line << " succeeded: " << out.str();
-        return out.str();
-    }
+    ShellCommandInterpreterTest() : CShellInterpreterTest(42) {}
 
     EntityId entityNamed(EntityCollection collection, std::wstring_view name)
     {
@@ -61,10 +41,6 @@ protected:
                std::to_string(history.getUndoNames().size()) + ' ' +
                std::to_string(history.getRedoNames().size());
     }
-
-    host::CExplorerSession session{42};
-    std::ostringstream out;
-    CShellCommandInterpreter interpreter{session, out};
 };
 
 // The transcript of scripts/bad_input.shell pins the message of every refused line of the shell;

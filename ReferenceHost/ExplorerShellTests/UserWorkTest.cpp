@@ -3,11 +3,11 @@
 // explain themselves.
 
 #include "AecModel/Project.h"
-#include "AecModel/SampleProject.h"
 #include "AecModel/WideText.h"
 #include "ExplorerShell/ShellCommandInterpreter.h"
 #include "HostFrame/ExplorerSession.h"
 #include "HostServices/HostServices.h"
+#include "ShellInterpreterTest.h"
 
 #include <filesystem>
 #include <gmock/gmock.h>
@@ -23,31 +23,11 @@ namespace
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-class UserWorkTest : public ::testing::Test
+class UserWorkTest : public test::CShellInterpreterTest
 {
 protected:
-    UserWorkTest() { session.open(model::buildSampleProject()); }
+    UserWorkTest() : CShellInterpreterTest(5) {}
     ~UserWorkTest() override { std::filesystem::remove_all(folder); }
-
-    std::string run(std::string_view line)
-    {
-        out.str({});
-        errors.str({});
-        EXPECT_TRUE(interpreter.execute(line)) << line << " failed: " << errors.str();
-        EXPECT_EQ(errors.str(), "") << line;
-        return out.str();
-    }
-
-    // The error of a line that must fail: it goes to the error stream alone.
-    std::string fail(std::string_view line)
-    {
-        out.str({});
-        errors.str({});
-        EXPECT_FALSE(interpreter.execute(line)) << line << " succeeded: " << out.str();
-        EXPECT_EQ(out.str(), "") << line;
-        EXPECT_THAT(errors.str(), Not(HasSubstr("internal error"))) << line;
-        return errors.str();
-    }
 
     std::string nameOf(const std::string& idText)
     {
@@ -58,10 +38,6 @@ protected:
     const std::filesystem::path folder =
         std::filesystem::temp_directory_path() /
         ("aec-user-work-" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()));
-    host::CExplorerSession session{5};
-    std::ostringstream out;
-    std::ostringstream errors;
-    CShellCommandInterpreter interpreter{session, out, &errors};
 };
 
 TEST_F(UserWorkTest, QuitAndLoadAskBeforeUnsavedChangesAreLost)
